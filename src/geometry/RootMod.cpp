@@ -1,0 +1,41 @@
+#include "geometry/RootMod.h"
+
+#include "geometry/NumberText.h"
+#include "platform/Prompts.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace RootMod {
+
+float SngRoot(float base, float exponent) {
+    float result = exponent == 0.0f ? 1.0f : base;
+    const double extra = std::nearbyint(static_cast<double>(exponent) - 1.0);
+    const auto repetitions = static_cast<int64_t>(
+        std::fmin(extra, static_cast<double>(std::numeric_limits<int32_t>::max())));
+    if (repetitions >= 1 && (base == 1.0f || base == -1.0f || std::isnan(base))) {
+        // Every other base reaches 0 or overflows within a few hundred steps; these would
+        // loop for as long as the exponent says without changing.
+        if (base == -1.0f) {
+            return repetitions % 2 == 1 ? 1.0f : -1.0f;
+        }
+        return base;
+    }
+    for (int64_t i = 1; i <= repetitions; ++i) {
+        result = result * base;
+        if (std::isinf(result)) {
+            showMessage("Function SngRoot has failed because of an overflow error using base " +
+                            NumberText::single(base) + " to the " + NumberText::single(exponent) +
+                            " power.",
+                        "Run-Time Error", MessageIcon::Critical);
+            return 0.0f;
+        }
+        if (result == 0.0f) {
+            break;
+        }
+    }
+    return result;
+}
+
+} // namespace RootMod

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace RootMod {
+
+// base raised to a whole power by repeated single-precision multiplication: the
+// exponent - 1 rounded to a whole number (halves to even) is the count of extra factors,
+// so 0 gives 1, 1 and every negative exponent give base, and 2.5 gives base cubed.
+// An overflow is reported in a message box and gives 0.
+float SngRoot(float base, float exponent);
+
+} // namespace RootMod

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// A point on a canvas in whole pixels, as the polygon calls take it.
+struct CanvasPoint {
+    int32_t x = 0;
+    int32_t y = 0;
+};
+
+// An image in memory, 0x00RRGGBB per pixel, row by row from the top.
+struct Bitmap {
+    int width = 0;
+    int height = 0;
+    std::vector<uint32_t> pixels;
+};
+
+// Fill styles of a canvas: 0 solid, 1 transparent, 2..7 hatches (7 is the diagonal cross).
+enum FillStyle : int {
+    FillSolid = 0,
+    FillTransparent = 1,
+    FillHorizontalLine = 2,
+    FillVerticalLine = 3,
+    FillUpwardDiagonal = 4,
+    FillDownwardDiagonal = 5,
+    FillCross = 6,
+    FillDiagonalCross = 7,
+};
+
+// Draw styles: 0 solid line ... 5 no line (1..4 are dashed variants, drawn solid here).
+enum DrawStyle : int {
+    DrawSolid = 0,
+    DrawInvisible = 5,
+};
+
+// A persistent drawing surface, the picture box of a viewport. The drawing code sets
+// the state (styles, colours, pointer) and restores it afterwards, so the state lives
+// here, in the interface, and every implementation reads it when it paints.
+// Colours are packed red + 256 * green + 65536 * blue.
+class Canvas {
+public:
+    virtual ~Canvas() = default;
+
+    // Drawable size in pixels.
+    virtual int scaleWidth() const = 0;
+    virtual int scaleHeight() const = 0;
+
+    // Outline with the pen (fore colour, draw style), fill with the brush (fill colour,
+    // fill style); a polygon is closed from the last point back to the first.
+    virtual void polygon(const std::vector<CanvasPoint>& points) = 0;
+    virtual void moveTo(int x, int y) = 0;
+    virtual void lineTo(int x, int y) = 0;
+    virtual void textOut(int x, int y, const std::string& text) = 0;
+    // Fills the whole canvas with the back colour.
+    virtual void clear() = 0;
+    // Shows what was drawn since the last refresh.
+    virtual void refresh() = 0;
+    // Copies a source rectangle of the image onto a destination rectangle, scaling it,
+    // and combines it with what is there by a bitwise OR of the colours.
+    virtual void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
+                               int sw, int sh) = 0;
+
+    int fillStyle() const { return fillStyle_; }
+    void setFillStyle(int style) { fillStyle_ = style; }
+    int drawStyle() const { return drawStyle_; }
+    void setDrawStyle(int style) { drawStyle_ = style; }
+    int32_t foreColor() const { return foreColor_; }
+    void setForeColor(int32_t color) { foreColor_ = color; }
+    int32_t fillColor() const { return fillColor_; }
+    void setFillColor(int32_t color) { fillColor_ = color; }
+    int32_t backColor() const { return backColor_; }
+    void setBackColor(int32_t color) { backColor_ = color; }
+    // Pointer codes: 0 default, 2 crosshair, 6 and 7 sizing, 11 hourglass, 15 four-way move.
+    int mousePointer() const { return mousePointer_; }
+    virtual void setMousePointer(int pointer) { mousePointer_ = pointer; }
+
+private:
+    int fillStyle_ = FillTransparent;
+    int drawStyle_ = DrawSolid;
+    int32_t foreColor_ = 0;
+    int32_t fillColor_ = 0;
+    int32_t backColor_ = 0xFFFFFF;
+    int mousePointer_ = 0;
+};

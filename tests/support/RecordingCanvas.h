@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/Canvas.h"
+
+#include <string>
+#include <vector>
+
+// A canvas that paints nothing and records every drawing call with the state in force.
+class RecordingCanvas : public Canvas {
+public:
+    enum class Kind { Polygon, MoveTo, LineTo, Text, Clear, Refresh, StretchBlit };
+
+    struct Call {
+        Kind kind;
+        std::vector<CanvasPoint> points; // polygon corners, or the one point of the call
+        std::string text;
+        int fillStyle;
+        int drawStyle;
+        int32_t foreColor;
+        int32_t fillColor;
+        int32_t backColor;
+    };
+
+    explicit RecordingCanvas(int width = 400, int height = 300) : width_(width), height_(height) {}
+
+    int scaleWidth() const override { return width_; }
+    int scaleHeight() const override { return height_; }
+    void resize(int width, int height) {
+        width_ = width;
+        height_ = height;
+    }
+
+    void polygon(const std::vector<CanvasPoint>& points) override { record(Kind::Polygon, points); }
+    void moveTo(int x, int y) override { record(Kind::MoveTo, {{x, y}}); }
+    void lineTo(int x, int y) override { record(Kind::LineTo, {{x, y}}); }
+    void textOut(int x, int y, const std::string& text) override {
+        record(Kind::Text, {{x, y}}, text);
+    }
+    void clear() override { record(Kind::Clear, {}); }
+    void refresh() override { record(Kind::Refresh, {}); }
+    void stretchBlitOr(const Bitmap&, int dx, int dy, int dw, int dh, int, int, int,
+                       int) override {
+        record(Kind::StretchBlit, {{dx, dy}, {dx + dw, dy + dh}});
+    }
+
+    const std::vector<Call>& calls() const { return calls_; }
+    std::vector<Call> polygons() const;
+    void forget() { calls_.clear(); }
+
+private:
+    void record(Kind kind, std::vector<CanvasPoint> points, std::string text = {});
+
+    int width_;
+    int height_;
+    std::vector<Call> calls_;
+};

@@ -1,0 +1,23 @@
+#include "support/ScriptedPrompts.h"
+
+MessageAnswer ScriptedPrompts::messageBox(const std::string& text, const std::string& title,
+                                          MessageIcon icon, MessageButtons buttons) {
+    messages_.push_back(Message{text, title, icon, buttons});
+    if (!answers_.empty()) {
+        const MessageAnswer answer = answers_.front();
+        answers_.pop_front();
+        return answer;
+    }
+    return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+}
+
+std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt,
+                                                     const std::string&, const std::string&) {
+    inputPrompts_.push_back(prompt);
+    if (!inputs_.empty()) {
+        auto input = inputs_.front();
+        inputs_.pop_front();
+        return input;
+    }
+    return std::nullopt;
+}

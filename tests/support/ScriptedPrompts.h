@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/Prompts.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Prompts that answer from queues the test fills and record every question asked.
+// Unscripted message boxes answer Ok (Yes/No boxes: No); unscripted input boxes cancel.
+// While one exists it is the program's active prompts.
+class ScriptedPrompts : public Prompts {
+public:
+    struct Message {
+        std::string text;
+        std::string title;
+        MessageIcon icon;
+        MessageButtons buttons;
+    };
+
+    ScriptedPrompts() { installPrompts(this); }
+    ~ScriptedPrompts() override { installPrompts(nullptr); }
+    ScriptedPrompts(const ScriptedPrompts&) = delete;
+    ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
+
+    MessageAnswer messageBox(const std::string& text, const std::string& title, MessageIcon icon,
+                             MessageButtons buttons) override;
+    std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
+                                        const std::string& defaultText) override;
+
+    void queueAnswer(MessageAnswer answer) { answers_.push_back(answer); }
+    void queueInput(std::optional<std::string> input) { inputs_.push_back(std::move(input)); }
+
+    const std::vector<Message>& messages() const { return messages_; }
+    const std::vector<std::string>& inputPrompts() const { return inputPrompts_; }
+    void forget() {
+        messages_.clear();
+        inputPrompts_.clear();
+    }
+
+private:
+    std::deque<MessageAnswer> answers_;
+    std::deque<std::optional<std::string>> inputs_;
+    std::vector<Message> messages_;
+    std::vector<std::string> inputPrompts_;
+};
