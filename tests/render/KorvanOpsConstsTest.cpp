@@ -1,0 +1,105 @@
+#include "render/KorvanOpsConsts.h"
+
+#include "geometry/M3Ops.h"
+#include "support/RecordingCanvas.h"
+#include "support/ScriptedPrompts.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Point4 project(const Canvas& canvas, const ViewSpecs& view, float x, float y, float z) {
+    Point4 q;
+    M3Ops::transformPoint(Point4{x, y, z, 1}, KorvanOpsConsts::getFullViewMatrix(canvas, view), q);
+    return q;
+}
+
+ViewSpecs standardView(int viewConst, int projection = 0) {
+    ViewSpecs view;
+    view.ProjectionType = projection;
+    KorvanOpsConsts::setOrthoView(viewConst, view);
+    return view;
+}
+
+// Canvas direction (dx, dy) of a world axis: +dx is right, -dy is up on the canvas.
+void expectAxis(const Canvas& canvas, const ViewSpecs& view, float x, float y, float z, int dx,
+                int dy) {
+    const Point4 centre = project(canvas, view, 0, 0, 0);
+    const Point4 p = project(canvas, view, x, y, z);
+    EXPECT_NEAR(p.x - centre.x, dx * view.zoom, 1e-2) << x << "," << y << "," << z;
+    EXPECT_NEAR(p.y - centre.y, dy * view.zoom, 1e-2) << x << "," << y << "," << z;
+}
+
+} // namespace
+
+TEST(KorvanOpsConsts, StandardViewsOrientTheWorldAxes) {
+    RecordingCanvas canvas(400, 300);
+    // Front: right is +x, up is +y.
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewFront), 1, 0, 0, 1, 0);
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewFront), 0, 1, 0, 0, -1);
+    // Side: right is -z, up is +y.
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewSide), 0, 0, -1, 1, 0);
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewSide), 0, 1, 0, 0, -1);
+    // Top: the tiny horizontal offset of cos(pi/2) fixes right as +z and up as +x.
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewTop), 0, 0, 1, 1, 0);
+    expectAxis(canvas, standardView(KorvanOpsConsts::viewTop), 1, 0, 0, 0, -1);
+}
+
+TEST(KorvanOpsConsts, FullMatrixMapsTargetToCanvasCentreAndAppliesPerspective) {
+    RecordingCanvas canvas(400, 300);
+    const ViewSpecs front = standardView(KorvanOpsConsts::viewFront);
+    const Point4 target = project(canvas, front, 0, 0, 0);
+    EXPECT_NEAR(target.x, 200, 1e-3);
+    EXPECT_NEAR(target.y, 150, 1e-3);
+    const Point4 p = project(canvas, front, 1, 1, 0);
+    EXPECT_NEAR(p.x, 400, 1e-3);
+    EXPECT_NEAR(p.y, -50, 1e-3);
+
+    // Perspective with EyeR 10: a point at eye depth 5 lies twice as far from the centre.
+    const ViewSpecs perspective = standardView(KorvanOpsConsts::viewFront, 1);
+    const Point4 near = project(canvas, perspective, 1, 0, 5);
+    EXPECT_NEAR(near.x - 200, 2 * 200, 1e-2);
+    EXPECT_NEAR(near.z, 5, 1e-5);
+
+    // The shift moves the picture by half its amount.
+    ViewSpecs shifted = front;
+    shifted.shiftx = 40;
+    shifted.shifty = -20;
+    const Point4 moved = project(canvas, shifted, 0, 0, 0);
+    EXPECT_NEAR(moved.x, 220, 1e-3);
+    EXPECT_NEAR(moved.y, 140, 1e-3);
+}
+
+TEST(KorvanOpsConsts, SetOrthoViewRejectsUnknownViewsAndResetsIsometricDistance) {
+    ScriptedPrompts prompts;
+    ViewSpecs view;
+    view.EyeR = 25;
+    view.EyeTheta = 1;
+    const ViewSpecs before = view;
+    KorvanOpsConsts::setOrthoView(5, view);
+    EXPECT_EQ(view, before);
+    ASSERT_EQ(prompts.messages().size(), 1u);
+    EXPECT_EQ(prompts.messages()[0].text,
+              "Invalid setOrthoView viewConst Parameter.  View Change not performed.");
+    EXPECT_EQ(prompts.messages()[0].title, "SetOrthoView Error");
+    EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Exclamation);
+
+    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewTop, view);
+    EXPECT_EQ(view.EyeR, 25.0f);
+    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
+    EXPECT_EQ(view.EyeR, 10.0f);
+    EXPECT_EQ(view.EyeTheta, static_cast<float>(0.6283185307179581));
+}
+
+TEST(KorvanOpsConsts, SplitColorIgnoresTheTopByte) {
+    int r;
+    int g;
+    int b;
+    KorvanOpsConsts::splitColor(16744512, r, g, b);
+    EXPECT_EQ(r, 64);
+    EXPECT_EQ(g, 128);
+    EXPECT_EQ(b, 255);
+    KorvanOpsConsts::splitColor(0x7F0000FF, r, g, b);
+    EXPECT_EQ(r, 255);
+    EXPECT_EQ(b, 0);
+}
