@@ -30,6 +30,8 @@ inline double squareRoot(double value) {
 }
 
 // Stores a double into a single, failing when it does not fit.
-inline float toSingle(double value) { return static_cast<float>(finite(static_cast<float>(value))); }
+inline float toSingle(double value) {
+    return static_cast<float>(finite(static_cast<float>(value)));
+}
 
 } // namespace CheckedMath

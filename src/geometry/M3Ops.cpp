@@ -70,7 +70,9 @@ void setPerspective(Matrix4& M, float d) {
     }
 }
 
-void copyMatrix(Matrix4& target, const Matrix4& source) { target = source; }
+void copyMatrix(Matrix4& target, const Matrix4& source) {
+    target = source;
+}
 
 void multiplyMatrices(Matrix4& C, const Matrix4& A, const Matrix4& B) {
     Matrix4 R;

@@ -12,11 +12,14 @@ namespace RootMod {
 float SngRoot(float base, float exponent) {
     float result = exponent == 0.0f ? 1.0f : base;
     const double extra = std::nearbyint(static_cast<double>(exponent) - 1.0);
+    // Clamped to the 32-bit range the count is held in (a NaN exponent counts as the
+    // largest), so that no exponent makes the conversion undefined.
     const auto repetitions = static_cast<int64_t>(
-        std::fmin(extra, static_cast<double>(std::numeric_limits<int32_t>::max())));
+        std::fmax(std::fmin(extra, static_cast<double>(std::numeric_limits<int32_t>::max())),
+                  static_cast<double>(std::numeric_limits<int32_t>::min())));
     if (repetitions >= 1 && (base == 1.0f || base == -1.0f || std::isnan(base))) {
-        // Every other base reaches 0 or overflows within a few hundred steps; these would
-        // loop for as long as the exponent says without changing.
+        // Every other base reaches 0 or overflows in the end, where the loop stops; these
+        // would run for as long as the exponent says without changing.
         if (base == -1.0f) {
             return repetitions % 2 == 1 ? 1.0f : -1.0f;
         }
@@ -32,6 +35,11 @@ float SngRoot(float base, float exponent) {
             return 0.0f;
         }
         if (result == 0.0f) {
+            // Further factors keep it zero; only its sign still flips, once for every
+            // remaining negative factor.
+            if (std::signbit(base) && (repetitions - i) % 2 == 1) {
+                result = -result;
+            }
             break;
         }
     }

@@ -8,13 +8,15 @@ namespace TrigFunctions {
 
 float ArcSin(float x) {
     const double v = x;
-    return static_cast<float>(std::atan(CheckedMath::divide(v, CheckedMath::squareRoot(1 - v * v))));
+    return static_cast<float>(
+        std::atan(CheckedMath::divide(v, CheckedMath::squareRoot(1 - v * v))));
 }
 
 float ArcCos(float x) {
     const double v = x;
     return static_cast<float>(
-        std::atan(CheckedMath::divide(-v, CheckedMath::squareRoot(1 - v * v))) + 2 * std::atan(1.0));
+        std::atan(CheckedMath::divide(-v, CheckedMath::squareRoot(1 - v * v))) +
+        2 * std::atan(1.0));
 }
 
 } // namespace TrigFunctions

@@ -22,9 +22,13 @@ Prompts* installed = nullptr;
 
 } // namespace
 
-Prompts& activePrompts() { return installed ? *installed : fallback; }
+Prompts& activePrompts() {
+    return installed ? *installed : fallback;
+}
 
-void installPrompts(Prompts* prompts) { installed = prompts; }
+void installPrompts(Prompts* prompts) {
+    installed = prompts;
+}
 
 void showMessage(const std::string& text, const std::string& title, MessageIcon icon) {
     activePrompts().messageBox(text, title, icon, MessageButtons::Ok);

@@ -14,8 +14,7 @@ public:
     virtual MessageAnswer messageBox(const std::string& text, const std::string& title,
                                      MessageIcon icon, MessageButtons buttons) = 0;
     // The typed text, or nothing when the user cancelled.
-    virtual std::optional<std::string> inputBox(const std::string& prompt,
-                                                const std::string& title,
+    virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                                 const std::string& defaultText) = 0;
 };
 

@@ -31,9 +31,9 @@ MessageAnswer QtPrompts::messageBox(const std::string& text, const std::string& 
 std::optional<std::string> QtPrompts::inputBox(const std::string& prompt, const std::string& title,
                                                const std::string& defaultText) {
     bool ok = false;
-    const QString text =
-        QInputDialog::getText(parent_, QString::fromStdString(title), QString::fromStdString(prompt),
-                              QLineEdit::Normal, QString::fromStdString(defaultText), &ok);
+    const QString text = QInputDialog::getText(parent_, QString::fromStdString(title),
+                                               QString::fromStdString(prompt), QLineEdit::Normal,
+                                               QString::fromStdString(defaultText), &ok);
     if (!ok) {
         return std::nullopt;
     }

@@ -73,7 +73,9 @@ void splitColor(int32_t color, int& red, int& green, int& blue) {
     blue = static_cast<int>((bits / 65536) % 256);
 }
 
-int toCheckValue(bool flag) { return flag ? 1 : 0; }
+int toCheckValue(bool flag) {
+    return flag ? 1 : 0;
+}
 
 void unpackXYZ(const std::array<float, 3>& values, float& x, float& y, float& z) {
     x = values[0];

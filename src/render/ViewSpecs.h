@@ -8,14 +8,14 @@
 struct ViewSpecs {
     int32_t anchorX = 0; // last mouse position seen on the canvas
     int32_t anchorY = 0;
-    float shiftx = 0;    // the picture moves by half the shift
+    float shiftx = 0; // the picture moves by half the shift
     float shifty = 0;
     float zoom = 200.0f; // canvas pixels per world unit at the target plane
     bool HideSurfaces = true;
     bool wireFrame = false;
-    float EyeR = 10.0f; // eye distance from the target, also the clipping distance
-    float EyeTheta = 0; // azimuth from +x towards +z
-    float EyePhi = 0;   // elevation above the x-z plane
+    float EyeR = 10.0f;         // eye distance from the target, also the clipping distance
+    float EyeTheta = 0;         // azimuth from +x towards +z
+    float EyePhi = 0;           // elevation above the x-z plane
     int32_t ProjectionType = 1; // 0 parallel, 1 perspective
     int32_t targetX = 0;
     int32_t targetY = 0;

@@ -38,8 +38,7 @@ public:
     }
     void clear() override { record(Kind::Clear, {}); }
     void refresh() override { record(Kind::Refresh, {}); }
-    void stretchBlitOr(const Bitmap&, int dx, int dy, int dw, int dh, int, int, int,
-                       int) override {
+    void stretchBlitOr(const Bitmap&, int dx, int dy, int dw, int dh, int, int, int, int) override {
         record(Kind::StretchBlit, {{dx, dy}, {dx + dw, dy + dh}});
     }
 

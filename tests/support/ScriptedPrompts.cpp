@@ -11,8 +11,8 @@ MessageAnswer ScriptedPrompts::messageBox(const std::string& text, const std::st
     return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
 }
 
-std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt,
-                                                     const std::string&, const std::string&) {
+std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt, const std::string&,
+                                                     const std::string&) {
     inputPrompts_.push_back(prompt);
     if (!inputs_.empty()) {
         auto input = inputs_.front();

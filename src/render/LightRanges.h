@@ -1,0 +1,17 @@
+#pragma once
+
+#include "render/LightSource.h"
+
+#include <memory>
+#include <span>
+
+class Solid3d;
+
+namespace LightRanges {
+
+// Fits each light's distance attenuation to what is about to be painted (call it after
+// culling): Rmin and Rmax are the nearest and farthest corners of faces that are not
+// culled, and the attenuation becomes 1 at Rmin and 0.5 at Rmax.
+void updateLightRanges(const LightList& lights, std::span<const std::shared_ptr<Solid3d>> solids);
+
+} // namespace LightRanges

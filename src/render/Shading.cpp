@@ -1,0 +1,92 @@
+#include "render/Shading.h"
+
+#include "geometry/RootMod.h"
+#include "geometry/Rounding.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Shading {
+
+namespace {
+
+struct Channels {
+    int32_t red;
+    int32_t green;
+    int32_t blue;
+};
+
+float length(float x, float y, float z) {
+    return static_cast<float>(std::sqrt(static_cast<double>(x) * x + static_cast<double>(y) * y +
+                                        static_cast<double>(z) * z));
+}
+
+void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, const EyePoint& eye,
+               bool useShift) {
+    const float ex = eye.x - s.px;
+    const float ey = eye.y - s.py;
+    const float ez = eye.z - s.pz;
+    const float eyeDistance = length(ex, ey, ez);
+    const float vx = ex / eyeDistance;
+    const float vy = ey / eyeDistance;
+    const float vz = ez / eyeDistance;
+
+    for (const auto& light : lights) {
+        const float lx = (useShift ? light->x2 : light->x) - s.px;
+        const float ly = light->y - s.py;
+        const float lz = (useShift ? light->z2 : light->z) - s.pz;
+        const float dist = length(lx, ly, lz);
+        const float Lx = lx / dist;
+        const float Ly = ly / dist;
+        const float Lz = lz / dist;
+        const float cosine = Lx * s.nx + Ly * s.ny + Lz * s.nz;
+        if (!(cosine > 0)) {
+            continue; // turned away from this light
+        }
+        const float att = (light->Kdist + light->Rmin) / (light->Kdist + dist);
+        const double f = std::fabs(static_cast<double>(cosine) * att);
+        c.red = Rounding::toInt32(c.red + light->Ir * static_cast<double>(s.DiffuseKr) * f);
+        c.green = Rounding::toInt32(c.green + light->Ig * static_cast<double>(s.DiffuseKg) * f);
+        c.blue = Rounding::toInt32(c.blue + light->Ib * static_cast<double>(s.DiffuseKb) * f);
+
+        // L reflected about the normal, against the direction to the eye.
+        const float rx = 2 * s.nx * cosine - Lx;
+        const float ry = 2 * s.ny * cosine - Ly;
+        const float rz = 2 * s.nz * cosine - Lz;
+        const auto rv =
+            static_cast<float>(static_cast<double>(rx) * vx + static_cast<double>(ry) * vy +
+                               static_cast<double>(rz) * vz);
+        const double spec = static_cast<double>(RootMod::SngRoot(rv, s.SpecularN)) *
+                            static_cast<double>(s.SpecularK);
+        c.red = Rounding::toInt32(c.red + light->Ir * spec);
+        c.green = Rounding::toInt32(c.green + light->Ig * spec);
+        c.blue = Rounding::toInt32(c.blue + light->Ib * spec);
+    }
+}
+
+int32_t clampAndPack(Channels c) {
+    const auto clamp = [](int32_t v) { return std::max(std::min(v, 255), 0); };
+    return clamp(c.red) + 256 * clamp(c.green) + 65536 * clamp(c.blue);
+}
+
+} // namespace
+
+int32_t shadeColor(const ShadedSurface& surface, const LightList& lights, const EyePoint& eye,
+                   bool useShift) {
+    Channels c{0, 0, 0};
+    addLights(c, surface, lights, eye, useShift);
+    return clampAndPack(c);
+}
+
+int32_t shadeForcedColor(const ShadedSurface& surface, const LightList& lights,
+                         int16_t ambient_light, const EyePoint& eye, bool useShift, int red,
+                         int green, int blue) {
+    Channels c{red, green, blue};
+    addLights(c, surface, lights, eye, useShift);
+    c.red = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKr) + c.red);
+    c.green = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKg) + c.green);
+    c.blue = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKb) + c.blue);
+    return clampAndPack(c);
+}
+
+} // namespace Shading

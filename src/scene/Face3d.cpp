@@ -1,0 +1,424 @@
+#include "scene/Face3d.h"
+
+#include "geometry/Arctan.h"
+#include "geometry/M3Ops.h"
+#include "geometry/Rounding.h"
+#include "platform/Canvas.h"
+#include "render/GDIRegion.h"
+#include "render/Shading.h"
+#include "scene/Solid3d.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double pi = 3.14159265358979;
+constexpr double twoPi = 6.28318530717958;
+
+// Where two canvas edges cross, and each edge's depth there.
+bool intersectEdges(const Point4& a1, const Point4& a2, const Point4& b1, const Point4& b2,
+                    float& zA, float& zB) {
+    const float dx1 = a2.x - a1.x;
+    const float dy1 = a2.y - a1.y;
+    const float dx2 = b2.x - b1.x;
+    const float dy2 = b2.y - b1.y;
+    const float det = dy1 * dx2 - dy2 * dx1;
+    if (det > -0.01f && det < 0.01f) {
+        return false; // parallel, or too nearly so to tell
+    }
+    const float u = (dy1 * (a1.x - b1.x) - dx1 * (a1.y - b1.y)) / det;
+    if (!(u >= 0 && u <= 1)) {
+        return false;
+    }
+    const float s = (dy2 * (a1.x - b1.x) - dx2 * (a1.y - b1.y)) / det;
+    if (!(s >= 0 && s <= 1)) {
+        return false;
+    }
+    zA = a1.z + s * (a2.z - a1.z);
+    zB = b1.z + u * (b2.z - b1.z);
+    return true;
+}
+
+void normalOf(const Point4& p1, const Point4& p2, const Point4& p3, float& x, float& y, float& z) {
+    M3Ops::crossProduct(x, y, z, p2.x - p1.x, p2.y - p1.y, p2.z - p1.z, p3.x - p2.x, p3.y - p2.y,
+                        p3.z - p2.z);
+}
+
+} // namespace
+
+void Face3d::addIndex(int32_t index) {
+    indices_.push_back(index);
+    NumPts = static_cast<int32_t>(indices_.size());
+}
+
+void Face3d::SetPoints(const std::vector<int32_t>& indices) {
+    indices_ = indices;
+    NumPts = static_cast<int32_t>(indices_.size());
+}
+
+bool Face3d::deletePointIndex(int32_t index) {
+    if (indices_.size() < 4) {
+        return false;
+    }
+    const auto found = std::find(indices_.begin(), indices_.end(), index);
+    if (found == indices_.end()) {
+        return false;
+    }
+    indices_.erase(found);
+    NumPts = static_cast<int32_t>(indices_.size());
+    return true;
+}
+
+void Face3d::switchIndexOrientation() {
+    std::reverse(indices_.begin(), indices_.end());
+}
+
+const PointRecord& Face3d::record(int corner) const {
+    return solid_->getPointRecord(indices_[static_cast<size_t>(corner - 1)]);
+}
+
+void Face3d::GetTransformedPoint(int corner, float& x, float& y, float& z) const {
+    const Point4& t = record(corner).trans;
+    x = t.x;
+    y = t.y;
+    z = t.z;
+}
+
+void Face3d::GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float& Zmin,
+                       float& zmax) const {
+    Xmin = xmax = ymin = ymax = Zmin = zmax = 0;
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        const Point4& t = record(corner).trans;
+        if (corner == 1) {
+            Xmin = xmax = t.x;
+            ymin = ymax = t.y;
+            Zmin = zmax = t.z;
+            continue;
+        }
+        Xmin = std::min(Xmin, t.x);
+        xmax = std::max(xmax, t.x);
+        ymin = std::min(ymin, t.y);
+        ymax = std::max(ymax, t.y);
+        Zmin = std::min(Zmin, t.z);
+        zmax = std::max(zmax, t.z);
+    }
+}
+
+void Face3d::NormalVector(float& x, float& y, float& z) const {
+    x = y = z = 0;
+    if (NumPts >= 3) {
+        normalOf(record(1).coord, record(2).coord, record(3).coord, x, y, z);
+    }
+}
+
+void Face3d::TransformedNormalVector(float& x, float& y, float& z) const {
+    x = y = z = 0;
+    if (NumPts >= 3) {
+        normalOf(record(1).trans, record(2).trans, record(3).trans, x, y, z);
+    }
+}
+
+void Face3d::UnitNormalVector(float& x, float& y, float& z) const {
+    NormalVector(x, y, z);
+    const auto length = static_cast<float>(std::sqrt(
+        static_cast<double>(x) * x + static_cast<double>(y) * y + static_cast<double>(z) * z));
+    x = x / length;
+    y = y / length;
+    z = z / length;
+}
+
+void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmin,
+                         float& Rmax) const {
+    Rmin = 1e30f;
+    Rmax = -1e30f;
+    if (IsCulled || NumPts < 3) {
+        return;
+    }
+    double smallest = 1e300;
+    double largest = -1e300;
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        const Point4& c = record(corner).coord;
+        const double dx = c.x - light_x;
+        const double dy = c.y - light_y;
+        const double dz = c.z - light_z;
+        const double squared = dx * dx + dy * dy + dz * dz;
+        smallest = std::min(smallest, squared);
+        largest = std::max(largest, squared);
+    }
+    Rmin = static_cast<float>(std::sqrt(smallest));
+    Rmax = static_cast<float>(std::sqrt(largest));
+}
+
+float Face3d::zmax() const {
+    if (IsCulled) {
+        return 0;
+    }
+    float result = -1e30f;
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        result = std::max(result, record(corner).trans.z);
+    }
+    return result;
+}
+
+template <class Step> void Face3d::transformCorners(Step step) {
+    if (IsCulled) {
+        return;
+    }
+    Solid3d& solid = *solid_;
+    for (const int32_t index : indices_) {
+        if (!solid.hasTransformedPoint(index)) {
+            PointRecord& r = solid.pointRecordForTransform(index);
+            step(r);
+            solid.activateTransformedPoint(index);
+        }
+    }
+}
+
+void Face3d::ApplyFull(const Matrix4& M, bool toCoord2) {
+    if (toCoord2) {
+        transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.coord2); });
+    } else {
+        transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.trans); });
+    }
+}
+
+void Face3d::ApplyFullTrans(const Matrix4& M) {
+    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.trans, M, r.trans); });
+}
+
+void Face3d::ApplyFullCoord2(const Matrix4& M) {
+    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord2, M, r.trans); });
+}
+
+void Face3d::ApplyFullCoord(const Matrix4& M) {
+    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.coord); });
+}
+
+void Face3d::Apply(const Matrix4& M) {
+    transformCorners([&M](PointRecord& r) { M3Ops::transformPointAffine(r.coord, M, r.trans); });
+}
+
+void Face3d::ApplyCoord(const Matrix4& M) {
+    transformCorners([&M](PointRecord& r) { M3Ops::transformPointAffine(r.coord, M, r.coord); });
+}
+
+void Face3d::cull(float eye_x, float eye_y, float eye_z) {
+    float nx;
+    float ny;
+    float nz;
+    NormalVector(nx, ny, nz);
+    if (NumPts < 1) {
+        IsCulled = true;
+        return;
+    }
+    const Point4& p = record(1).coord;
+    const auto d = static_cast<float>(static_cast<double>(nx) * (p.x - eye_x) +
+                                      static_cast<double>(ny) * (p.y - eye_y) +
+                                      static_cast<double>(nz) * (p.z - eye_z));
+    // Only faces turned towards the eye by more than the tolerance stay; edge-on is culled.
+    IsCulled = !(-0.0001 >= d);
+}
+
+void Face3d::clipEye(float eyeR) {
+    if (IsCulled) {
+        return;
+    }
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        if (record(corner).trans.z >= eyeR) {
+            IsCulled = true;
+            return;
+        }
+    }
+}
+
+bool Face3d::isOnSideOf(const Face3d& other, bool towardsViewer) const {
+    float nx;
+    float ny;
+    float nz;
+    other.TransformedNormalVector(nx, ny, nz);
+    if (towardsViewer ? nz < 0 : nz > 0) {
+        nx = -nx;
+        ny = -ny;
+        nz = -nz;
+    }
+    if (other.NumPts < 1) {
+        return true;
+    }
+    const Point4& o = other.record(1).trans;
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        const Point4& v = record(corner).trans;
+        const auto s = static_cast<float>(static_cast<double>(v.x - o.x) * nx +
+                                          static_cast<double>(v.y - o.y) * ny +
+                                          static_cast<double>(v.z - o.z) * nz);
+        if (s < -0.01f) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Face3d::IsAbove(const Face3d& other) const {
+    return isOnSideOf(other, true);
+}
+
+bool Face3d::IsBelow(const Face3d& other) const {
+    return isOnSideOf(other, false);
+}
+
+bool Face3d::Obscures(const Face3d& other) const {
+    if (NumPts < 1 || other.NumPts < 1) {
+        return false;
+    }
+    for (int i = 1; i <= NumPts; ++i) {
+        const Point4& a1 = record(i == 1 ? NumPts : i - 1).trans;
+        const Point4& a2 = record(i).trans;
+        for (int j = 1; j <= other.NumPts; ++j) {
+            const Point4& b1 = other.record(j == 1 ? other.NumPts : j - 1).trans;
+            const Point4& b2 = other.record(j).trans;
+            float zThis;
+            float zOther;
+            if (!intersectEdges(a1, a2, b1, b2, zThis, zOther)) {
+                continue;
+            }
+            if (zThis - zOther > 0.01f) {
+                return true;
+            }
+            if (zOther - zThis > 0.01f) {
+                return false;
+            }
+        }
+    }
+    const Point4& mine = record(1).trans;
+    if (other.PointInside(mine.x, mine.y)) {
+        return true;
+    }
+    const Point4& theirs = other.record(1).trans;
+    return PointInside(theirs.x, theirs.y);
+}
+
+bool Face3d::PointInside(float x, float y) const {
+    if (NumPts < 1) {
+        return false;
+    }
+    const auto angleTo = [&](int corner) {
+        const Point4& t = record(corner).trans;
+        double a = Arctan::ArcTan(t.y - y, t.x - x, true);
+        if (a < 0) {
+            a = a + twoPi;
+        }
+        return a;
+    };
+    double previous = angleTo(NumPts);
+    double sum = 0;
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        const double a = angleTo(corner);
+        double d = a - previous;
+        if (d > pi) {
+            d = d - twoPi;
+        }
+        if (d < -pi) {
+            d = d + twoPi;
+        }
+        sum = sum + d;
+        previous = a;
+    }
+    return std::fabs(sum) > 0.001;
+}
+
+std::vector<CanvasPoint> Face3d::canvasPoints() const {
+    std::vector<CanvasPoint> points(static_cast<size_t>(NumPts));
+    for (int corner = 1; corner <= NumPts; ++corner) {
+        const Point4& t = record(corner).trans;
+        points[static_cast<size_t>(corner - 1)] = {Rounding::toInt32(t.x), Rounding::toInt32(t.y)};
+    }
+    return points;
+}
+
+void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
+                   bool wireFrame) const {
+    const int savedFillStyle = pic.fillStyle();
+    const int savedDrawStyle = pic.drawStyle();
+    const int32_t savedForeColor = pic.foreColor();
+    const int32_t savedFillColor = pic.fillColor();
+    pic.setFillColor(color);
+    if (wireFrame) {
+        pic.setFillStyle(FillTransparent);
+        pic.setDrawStyle(DrawSolid);
+        pic.setForeColor(pic.fillColor());
+    }
+    pic.polygon(points);
+    pic.setFillColor(savedFillColor);
+    pic.setForeColor(savedForeColor);
+    pic.setFillStyle(savedFillStyle);
+    pic.setDrawStyle(savedDrawStyle);
+}
+
+namespace {
+
+// Whether every corner lies off the canvas: then the face paints nothing.
+bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic) {
+    const int width = pic.scaleWidth();
+    const int height = pic.scaleHeight();
+    return std::all_of(points.begin(), points.end(), [&](const CanvasPoint& p) {
+        return p.x < 0 || p.y < 0 || p.x > width || p.y > height;
+    });
+}
+
+ShadedSurface surfaceOf(const Face3d& face) {
+    ShadedSurface s;
+    face.UnitNormalVector(s.nx, s.ny, s.nz);
+    const Point4& p = face.getSolidContainer()->getPointRecord(face.getIndices().front()).coord;
+    s.px = p.x;
+    s.py = p.y;
+    s.pz = p.z;
+    s.DiffuseKr = face.DiffuseKr;
+    s.DiffuseKg = face.DiffuseKg;
+    s.DiffuseKb = face.DiffuseKb;
+    s.AmbientKr = face.AmbientKr;
+    s.AmbientKg = face.AmbientKg;
+    s.AmbientKb = face.AmbientKb;
+    s.SpecularK = face.SpecularK;
+    s.SpecularN = face.SpecularN;
+    return s;
+}
+
+} // namespace
+
+void Face3d::DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16_t, float eye_x,
+                              float eye_y, float eye_z, bool UseShift, bool wireFrame) {
+    // ambient_light is accepted for symmetry with DrawForceColor: unforced shading adds no
+    // ambient term.
+    if (IsCulled || NumPts < 3) {
+        return;
+    }
+    const std::vector<CanvasPoint> points = canvasPoints();
+    if (allOffCanvas(points, pic)) {
+        return;
+    }
+    const int32_t color = Shading::shadeColor(surfaceOf(*this), light_sources,
+                                              EyePoint{eye_x, eye_y, eye_z}, UseShift);
+    paint(pic, points, color, wireFrame);
+}
+
+void Face3d::DrawForceColor(Canvas& pic, const LightList& light_sources, int16_t ambient_light,
+                            float eye_x, float eye_y, float eye_z, bool UseShift, int FRed,
+                            int FGreen, int FBlue, bool wireFrame) {
+    if (IsCulled || NumPts < 3) {
+        return;
+    }
+    const std::vector<CanvasPoint> points = canvasPoints();
+    if (allOffCanvas(points, pic)) {
+        return;
+    }
+    const int32_t color =
+        Shading::shadeForcedColor(surfaceOf(*this), light_sources, ambient_light,
+                                  EyePoint{eye_x, eye_y, eye_z}, UseShift, FRed, FGreen, FBlue);
+    paint(pic, points, color, wireFrame);
+}
+
+std::shared_ptr<GDIRegion> Face3d::createRegion(int fillmode) const {
+    auto region = std::make_shared<GDIRegion>();
+    region->createPolygonRegion(canvasPoints(), fillmode);
+    return region;
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "geometry/Matrix4.h"
+#include "render/LightSource.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "platform/Canvas.h"
+
+class GDIRegion;
+class Solid3d;
+struct PointRecord;
+
+// One planar polygon of a solid. It holds no coordinates: it lists 1-based indices into
+// its solid's point records in the order its corners are visited, and carries the
+// surface coefficients that shading uses. Corners are numbered 1 to NumPts.
+class Face3d {
+public:
+    int32_t NumPts = 0;
+    bool IsCulled = false; // not to be drawn in the current redraw (back face or clipped)
+    float DiffuseKr = 0;
+    float DiffuseKg = 0;
+    float DiffuseKb = 0;
+    float AmbientKr = 0;
+    float AmbientKg = 0;
+    float AmbientKb = 0;
+    float SpecularK = 0;
+    float SpecularN = 0; // used as a whole power
+
+    // Structure and identity.
+    void addIndex(int32_t index);
+    void SetPoints(const std::vector<int32_t>& indices);
+    // Removes the first occurrence of index, unless that would leave fewer than 3 corners.
+    bool deletePointIndex(int32_t index);
+    // Reverses the corner order, which flips the normal.
+    void switchIndexOrientation();
+    const std::vector<int32_t>& getIndices() const { return indices_; }
+    // The solid whose points the indices refer to. The face does not own it.
+    void setSolidContainer(Solid3d* solid) { solid_ = solid; }
+    Solid3d* getSolidContainer() const { return solid_; }
+    void setSelected(bool flag) { selected_ = flag; }
+    bool isSelected() const { return selected_; }
+    void setOrderNumber(int32_t number) { orderNumber_ = number; }
+    int32_t getOrderNum() const { return orderNumber_; }
+
+    // Geometry. Faces with fewer than three corners have a zero normal.
+    void GetTransformedPoint(int corner, float& x, float& y, float& z) const;
+    void GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float& Zmin,
+                   float& zmax) const;
+    void NormalVector(float& x, float& y, float& z) const;
+    void TransformedNormalVector(float& x, float& y, float& z) const;
+    void UnitNormalVector(float& x, float& y, float& z) const;
+    void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
+    float zmax() const;
+
+    // Transformations through the solid's cache: a point shared by several faces is
+    // transformed once until the solid's flags are reset. A culled face transforms nothing.
+    void ApplyFull(const Matrix4& M, bool toCoord2);
+    void ApplyFullTrans(const Matrix4& M);
+    void ApplyFullCoord2(const Matrix4& M);
+    void ApplyFullCoord(const Matrix4& M);
+    void Apply(const Matrix4& M);
+    void ApplyCoord(const Matrix4& M);
+
+    // Visibility: back faces and faces edge-on to the eye are culled; so are faces with a
+    // corner at or behind the eye.
+    void cull(float eye_x, float eye_y, float eye_z);
+    void clipEye(float eyeR);
+
+    // Depth relations for the painter's sort, all on the transformed points.
+    bool IsAbove(const Face3d& other) const;
+    bool IsBelow(const Face3d& other) const;
+    bool Obscures(const Face3d& other) const;
+    bool PointInside(float x, float y) const;
+
+    void DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16_t ambient_light,
+                          float eye_x, float eye_y, float eye_z, bool UseShift, bool wireFrame);
+    void DrawForceColor(Canvas& pic, const LightList& light_sources, int16_t ambient_light,
+                        float eye_x, float eye_y, float eye_z, bool UseShift, int FRed, int FGreen,
+                        int FBlue, bool wireFrame);
+
+    // A hit region from the rounded transformed corners, culled or not.
+    std::shared_ptr<GDIRegion> createRegion(int fillmode) const;
+
+private:
+    const PointRecord& record(int corner) const;
+    template <class Step> void transformCorners(Step step);
+    bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
+    // The corners' transformed x and y, rounded to whole pixels.
+    std::vector<CanvasPoint> canvasPoints() const;
+    void paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
+               bool wireFrame) const;
+
+    std::vector<int32_t> indices_;
+    Solid3d* solid_ = nullptr;
+    bool selected_ = false;
+    int32_t orderNumber_ = 0;
+};

@@ -1,0 +1,25 @@
+#include "support/TestSolids.h"
+
+#include <vector>
+
+std::shared_ptr<Solid3d> makeCube(float h) {
+    auto cube = std::make_shared<Solid3d>();
+    const std::vector<float> points = {-h, -h, -h, h, -h, -h, h, h, -h, -h, h, -h,
+                                       -h, -h, h,  h, -h, h,  h, h, h,  -h, h, h};
+    cube->addPointsArray(points);
+    cube->AddFace(std::vector<int32_t>{5, 6, 7, 8}); // +z
+    cube->AddFace(std::vector<int32_t>{1, 4, 3, 2}); // -z
+    cube->AddFace(std::vector<int32_t>{2, 3, 7, 6}); // +x
+    cube->AddFace(std::vector<int32_t>{1, 5, 8, 4}); // -x
+    cube->AddFace(std::vector<int32_t>{4, 8, 7, 3}); // +y
+    cube->AddFace(std::vector<int32_t>{1, 2, 6, 5}); // -y
+    return cube;
+}
+
+Matrix4 canvasLayout(float scale, float dx, float dy) {
+    Matrix4 M;
+    M3Ops::setScale(M, scale, scale, 1.0f);
+    M(4, 1) = dx;
+    M(4, 2) = dy;
+    return M;
+}
