@@ -81,6 +81,6 @@ private:
     int drawStyle_ = DrawSolid;
     int32_t foreColor_ = 0;
     int32_t fillColor_ = 0;
-    int32_t backColor_ = 0xFFFFFF;
+    int32_t backColor_ = 0; // viewports are black, so that white axes and grey grid stand out
     int mousePointer_ = 0;
 };

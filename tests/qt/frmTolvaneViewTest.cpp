@@ -12,6 +12,10 @@ TEST(frmTolvaneView, OpensCaptionedMainWindow) {
 }
 
 int main(int argc, char** argv) {
+    // Test discovery runs this binary without the test's environment: never look for a display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
