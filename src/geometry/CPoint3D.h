@@ -8,7 +8,7 @@
 // Profiles share these objects by reference, so a closed profile's first and last entries
 // can be one and the same point.
 class CPoint3D {
-  public:
+public:
     // The model point as listed in the profile dialog and the scene tree: X:1.5, Y:-2,Z:0.
     std::string toString() const;
     // Whole-record access for the program's own classes only (the profile, the profile
@@ -17,6 +17,6 @@ class CPoint3D {
     PointRecord getRecord() const { return record; }
     void setRecord(const PointRecord& value) { record = value; }
 
-  private:
+private:
     PointRecord record;
 };

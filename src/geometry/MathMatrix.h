@@ -8,7 +8,7 @@
 // values (default-constructed, or built from an empty list) is "not assigned"; the library
 // fails on it as on any other misuse.
 class MathMatrix {
-  public:
+public:
     MathMatrix() = default;
 
     // A rows x columns matrix of zeros.
@@ -49,7 +49,7 @@ class MathMatrix {
 
     bool operator==(const MathMatrix&) const = default;
 
-  private:
+private:
     std::size_t index(int row, int column) const {
         if (row < 0 || row >= rows_ || column < 0 || column >= columns_) {
             throw std::out_of_range("Subscript out of range");

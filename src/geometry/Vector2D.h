@@ -4,7 +4,7 @@
 // so a vector pointing towards negative x reads back pointing the other way: (-1, 0) gives
 // angle 0 and x 1. The orientation guess of profiles sums these angles as they are.
 class Vector2D {
-  public:
+public:
     void initializeXY(float x, float y);
     void initializeAngleAmplitude(float newAngle, float newAmplitude);
     float getAngle() const { return angle; }
@@ -16,7 +16,7 @@ class Vector2D {
     void setAngle(float value) { angle = value; }
     void setAmplitude(float value) { amplitude = value; }
 
-  private:
+private:
     float angle = 0;
     float amplitude = 0;
 };

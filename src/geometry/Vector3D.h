@@ -7,7 +7,7 @@
 // x-z plane from +x towards +z, phi the elevation above that plane. A plain value: copies
 // are independent.
 class Vector3D {
-  public:
+public:
     void getXYZ(float& x, float& y, float& z) const;
     float getX() const;
     float getY() const;
@@ -34,7 +34,7 @@ class Vector3D {
     // Reports a zero vector in a message box and leaves the vector as it was.
     void normalize();
 
-  private:
+private:
     void sphericalToCartesian(float& x, float& y, float& z) const;
     // Vectors along the y axis (the zero vector among them) have no defined angles: they
     // are reported in a message box, keep the new amplitude and their old angles.

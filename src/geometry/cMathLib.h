@@ -22,7 +22,7 @@
 //   matrix, so the decimal points line up and a "-" takes one of the padding blanks; a
 //   negative zero is shown as "0.0000". The last line has no "\r\n".
 class cMathLib {
-  public:
+public:
     MathMatrix Add(const MathMatrix& Mat_1, const MathMatrix& Mat_2) const;
     MathMatrix Subtract(const MathMatrix& Mat_1, const MathMatrix& Mat_2) const;
     MathMatrix Multiply(const MathMatrix& Mat_1, const MathMatrix& Mat_2) const;

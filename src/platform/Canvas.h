@@ -29,7 +29,7 @@ enum FillStyle : int {
     FillDiagonalCross = 7,
 };
 
-// Draw styles: 0 solid line ... 5 no line (1..4 are dashed variants, drawn solid here).
+// Draw styles: 0 solid line, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot, 5 no line, 6 inside solid.
 enum DrawStyle : int {
     DrawSolid = 0,
     DrawInvisible = 5,

@@ -27,7 +27,7 @@ struct RegionRect {
 // 32-bit range (points behind the eye project far away) cannot overflow; the result is
 // exact while corners stay within +-2^24 and rounded to double precision beyond that.
 class GDIRegion {
-  public:
+public:
     static constexpr int AlternateFill = 1; // even-odd
     static constexpr int WindingFill = 2;   // non-zero
 
@@ -39,7 +39,7 @@ class GDIRegion {
     bool rectWithinRegionParameter(int32_t Left, int32_t top, int32_t Right, int32_t bottom) const;
     bool rectInRegion(const RegionRect& rect) const;
 
-  private:
+private:
     // A slanted or vertical edge, kept from its upper end to its lower end; direction says
     // which way the polygon runs along it (+1 downwards), for the winding count. Edge
     // (xTop, yTop)-(xBottom, yBottom) crosses the centres of rows yTop to yBottom - 1.

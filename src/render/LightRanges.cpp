@@ -1,12 +1,13 @@
 #include "render/LightRanges.h"
 
-#include "scene/Solid3d.h"
+#include "scene/Transformed3d.h"
 
 #include <algorithm>
 
 namespace LightRanges {
 
-void updateLightRanges(const LightList& lights, std::span<const std::shared_ptr<Solid3d>> solids) {
+void updateLightRanges(const LightList& lights,
+                       std::span<const std::shared_ptr<Transformed3d>> solids) {
     for (const auto& light : lights) {
         float Rmin = 1e30f;
         float Rmax = -1e30f;

@@ -8,7 +8,9 @@ void Transformed3d::AddCurvePoint(float x, float y, float z) {
     curve_.push_back(record);
 }
 
-void Transformed3d::SetTransformation(const Matrix4& M) { transformations_.push_back(M); }
+void Transformed3d::SetTransformation(const Matrix4& M) {
+    transformations_.push_back(M);
+}
 
 void Transformed3d::Transform(bool cap_ends) {
     solid_ = std::make_shared<Solid3d>();
@@ -51,7 +53,9 @@ void Transformed3d::Transform(bool cap_ends) {
     }
 }
 
-bool Transformed3d::HideSurfaces() const { return solid_ && solid_->HideSurfaces; }
+bool Transformed3d::HideSurfaces() const {
+    return solid_ && solid_->HideSurfaces;
+}
 
 void Transformed3d::HideSurfaces(bool flag) {
     if (solid_) {
@@ -89,7 +93,9 @@ void Transformed3d::SetZMax() {
     }
 }
 
-float Transformed3d::zmax() const { return solid_ ? solid_->zmax : 0.0f; }
+float Transformed3d::zmax() const {
+    return solid_ ? solid_->zmax : 0.0f;
+}
 
 void Transformed3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmin,
                                 float& Rmax) const {
@@ -145,15 +151,17 @@ std::vector<std::shared_ptr<CPoint3D>> Transformed3d::getPoints() const {
     return solid_ ? solid_->getPoints() : std::vector<std::shared_ptr<CPoint3D>>{};
 }
 
-FaceList Transformed3d::getFaces() const { return solid_ ? solid_->copyFaceList() : FaceList{}; }
+FaceList Transformed3d::getFaces() const {
+    return solid_ ? solid_->copyFaceList() : FaceList{};
+}
 
 FaceList Transformed3d::getSortedFaces() const {
     return solid_ ? solid_->SortFaces() : FaceList{};
 }
 
-std::vector<std::shared_ptr<GDIRegion>>
-Transformed3d::createRegions(bool useSortedFaces, bool excludeCulledFaces,
-                             int regionFillMode) const {
+std::vector<std::shared_ptr<GDIRegion>> Transformed3d::createRegions(bool useSortedFaces,
+                                                                     bool excludeCulledFaces,
+                                                                     int regionFillMode) const {
     if (!solid_) {
         return {};
     }

@@ -50,9 +50,8 @@ public:
     std::vector<std::shared_ptr<CPoint3D>> getPoints() const;
     FaceList getFaces() const;
     FaceList getSortedFaces() const;
-    std::vector<std::shared_ptr<GDIRegion>> createRegions(bool useSortedFaces,
-                                                          bool excludeCulledFaces,
-                                                          int regionFillMode) const;
+    std::vector<std::shared_ptr<GDIRegion>>
+    createRegions(bool useSortedFaces, bool excludeCulledFaces, int regionFillMode) const;
     std::vector<std::shared_ptr<FaceRegionEncap>>
     createFaceRegionEncaps(bool useSortedFaces, bool excludeCulledFaces, int regionFillMode) const;
     void deselectFaces();

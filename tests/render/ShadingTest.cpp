@@ -1,6 +1,7 @@
 #include "render/Shading.h"
 
 #include "render/LightRanges.h"
+#include "scene/Transformed3d.h"
 #include "support/TestSolids.h"
 
 #include <cmath>
@@ -81,7 +82,9 @@ TEST(Shading, LightRangesFitTheVisibleCorners) {
     auto cube = makeCube();
     cube->faces[0]->IsCulled = true;
     const LightList lights = {light(0, 0, 10, 0)};
-    LightRanges::updateLightRanges(lights, std::vector<std::shared_ptr<Solid3d>>{cube});
+    auto object = std::make_shared<Transformed3d>();
+    object->setSolid(cube);
+    LightRanges::updateLightRanges(lights, std::vector<std::shared_ptr<Transformed3d>>{object});
     // Nearest unculled corner is at z = 1 (on the side faces); farthest at z = -1.
     const float near = std::sqrt(1 + 1 + 81.0f);
     const float far = std::sqrt(1 + 1 + 121.0f);

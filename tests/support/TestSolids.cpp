@@ -2,10 +2,14 @@
 
 #include <vector>
 
-std::shared_ptr<Solid3d> makeCube(float h) {
+std::shared_ptr<Solid3d> makeCube(float h, float cx, float cy, float cz) {
     auto cube = std::make_shared<Solid3d>();
-    const std::vector<float> points = {-h, -h, -h, h, -h, -h, h, h, -h, -h, h, -h,
-                                       -h, -h, h,  h, -h, h,  h, h, h,  -h, h, h};
+    const float corners[8][3] = {{-h, -h, -h}, {h, -h, -h}, {h, h, -h}, {-h, h, -h},
+                                 {-h, -h, h},  {h, -h, h},  {h, h, h},  {-h, h, h}};
+    std::vector<float> points;
+    for (const auto& c : corners) {
+        points.insert(points.end(), {c[0] + cx, c[1] + cy, c[2] + cz});
+    }
     cube->addPointsArray(points);
     cube->AddFace(std::vector<int32_t>{5, 6, 7, 8}); // +z
     cube->AddFace(std::vector<int32_t>{1, 4, 3, 2}); // -z

@@ -5,9 +5,9 @@
 
 #include <memory>
 
-// A cube from (-h, -h, -h) to (h, h, h) with every face listed counter-clockwise as seen
-// from outside, so that its normals point outwards.
-std::shared_ptr<Solid3d> makeCube(float h = 1.0f);
+// A cube of half-size h around (cx, cy, cz) with every face listed counter-clockwise as
+// seen from outside, so that its normals point outwards.
+std::shared_ptr<Solid3d> makeCube(float h = 1.0f, float cx = 0, float cy = 0, float cz = 0);
 
 // Maps model points straight onto the canvas: x and y scaled by `scale` and moved by
 // (dx, dy), depth kept. Handy for laying out faces in canvas pixels.

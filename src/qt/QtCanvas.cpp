@@ -1,0 +1,174 @@
+#include "qt/QtCanvas.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPoint>
+#include <QString>
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+namespace {
+
+QColor toQColor(int32_t color) {
+    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+}
+
+Qt::PenStyle penStyle(int drawStyle) {
+    switch (drawStyle) {
+    case 1:
+        return Qt::DashLine;
+    case 2:
+        return Qt::DotLine;
+    case 3:
+        return Qt::DashDotLine;
+    case 4:
+        return Qt::DashDotDotLine;
+    case DrawInvisible:
+        return Qt::NoPen;
+    default: // 0 solid and 6 inside solid: a one-pixel pen has no inside to keep to
+        return Qt::SolidLine;
+    }
+}
+
+Qt::BrushStyle brushStyle(int fillStyle) {
+    switch (fillStyle) {
+    case FillSolid:
+        return Qt::SolidPattern;
+    case FillHorizontalLine:
+        return Qt::HorPattern;
+    case FillVerticalLine:
+        return Qt::VerPattern;
+    case FillUpwardDiagonal:
+        return Qt::BDiagPattern;
+    case FillDownwardDiagonal:
+        return Qt::FDiagPattern;
+    case FillCross:
+        return Qt::CrossPattern;
+    case FillDiagonalCross:
+        return Qt::DiagCrossPattern;
+    default:
+        return Qt::NoBrush;
+    }
+}
+
+// An empty image cannot be painted on; a canvas keeps at least one pixel so that drawing
+// needs no guard while its widget is collapsed.
+QImage blankImage(int width, int height, int32_t backColor) {
+    QImage image(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
+    image.fill(toQColor(backColor));
+    return image;
+}
+
+} // namespace
+
+QtCanvas::QtCanvas(int width, int height) : image_(blankImage(width, height, backColor())) {
+    // Small, and without antialiasing: text is drawn in the fore colour alone, like the lines.
+    font_.setPixelSize(11);
+    font_.setStyleStrategy(QFont::NoAntialias);
+    fontAscent_ = QFontMetrics(font_).ascent();
+}
+
+void QtCanvas::resize(int width, int height) {
+    QImage resized = blankImage(width, height, backColor());
+    QPainter painter(&resized);
+    painter.drawImage(0, 0, image_);
+    painter.end();
+    image_ = resized;
+}
+
+// The pen ends its lines without a cap so that, as on a classic device context, the last
+// pixel of a line is left for the next line to start from.
+void QtCanvas::setPen(QPainter& painter) const {
+    painter.setPen(QPen(toQColor(foreColor()), 1, penStyle(drawStyle()), Qt::FlatCap));
+}
+
+void QtCanvas::polygon(const std::vector<CanvasPoint>& points) {
+    if (points.empty()) {
+        return;
+    }
+    std::vector<QPoint> corners;
+    corners.reserve(points.size());
+    for (const CanvasPoint& p : points) {
+        corners.emplace_back(p.x, p.y);
+    }
+    QPainter painter(&image_);
+    setPen(painter);
+    // Hatches paint only their lines: the transparent background mode leaves the gaps alone.
+    painter.setBrush(QBrush(toQColor(fillColor()), brushStyle(fillStyle())));
+    painter.drawPolygon(corners.data(), static_cast<int>(corners.size()), Qt::OddEvenFill);
+}
+
+void QtCanvas::moveTo(int x, int y) {
+    penX_ = x;
+    penY_ = y;
+}
+
+void QtCanvas::lineTo(int x, int y) {
+    QPainter painter(&image_);
+    setPen(painter);
+    painter.drawLine(penX_, penY_, x, y);
+    penX_ = x;
+    penY_ = y;
+}
+
+void QtCanvas::textOut(int x, int y, const std::string& text) {
+    QPainter painter(&image_);
+    painter.setPen(toQColor(foreColor()));
+    painter.setFont(font_);
+    painter.drawText(x, y + fontAscent_, QString::fromStdString(text));
+}
+
+void QtCanvas::clear() {
+    image_.fill(toQColor(backColor()));
+}
+
+void QtCanvas::refresh() {
+    if (refreshHandler_) {
+        refreshHandler_();
+    }
+}
+
+void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
+                             int sw, int sh) {
+    if (dw <= 0 || dh <= 0 || sw <= 0 || sh <= 0) {
+        return;
+    }
+    const int left = std::max(dx, 0);
+    const int right = std::min(dx + dw, image_.width());
+    const int top = std::max(dy, 0);
+    const int bottom = std::min(dy + dh, image_.height());
+    if (left >= right || top >= bottom) {
+        return;
+    }
+    // Nearest neighbour: each destination pixel takes the source pixel under its centre.
+    const auto sourceIndex = [](int d, int dSize, int s, int sSize) {
+        return s + static_cast<int>((2LL * d + 1) * sSize / (2LL * dSize));
+    };
+    std::vector<int> columns(right - left);
+    for (int x = left; x < right; ++x) {
+        columns[x - left] = sourceIndex(x - dx, dw, sx, sw);
+    }
+    for (int y = top; y < bottom; ++y) {
+        const int row = sourceIndex(y - dy, dh, sy, sh);
+        if (row < 0 || row >= image.height) {
+            continue;
+        }
+        const uint32_t* source = image.pixels.data() + static_cast<size_t>(row) * image.width;
+        auto* target = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        for (int x = left; x < right; ++x) {
+            const int column = columns[x - left];
+            if (column >= 0 && column < image.width) {
+                target[x] |= source[column] & 0xFFFFFF;
+            }
+        }
+    }
+}
+
+bool QtCanvas::saveImage(const std::string& path) const {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const char* format = extension == ".bmp" ? "BMP" : extension == ".png" ? "PNG" : nullptr;
+    return format != nullptr && image_.save(QString::fromStdString(path), format);
+}

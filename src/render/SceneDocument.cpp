@@ -1,0 +1,19 @@
+#include "render/SceneDocument.h"
+
+#include "scene/AxesXYZ.h"
+#include "scene/GridSolid3D.h"
+
+SceneDocument SceneDocument::startUp() {
+    SceneDocument document;
+    const float positions[4][3] = {{-300, 300, 300}, {0, 0, -300}, {300, 300, 300}, {0, -300, 0}};
+    for (const auto& p : positions) {
+        auto light = std::make_shared<LightSource>();
+        light->initialize(p[0], p[1], p[2], 200, 200, 200);
+        document.light_sources.push_back(light);
+    }
+    document.grid = std::make_shared<GridSolid3D>();
+    document.grid->initialize(10.0f, -1.0f, 20, 10.0f, -1.0f, 20);
+    document.referenceAxes = std::make_shared<AxesXYZ>();
+    document.zeroAxes = std::make_shared<AxesXYZ>();
+    return document;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "render/LightSource.h"
+
+#include <memory>
+#include <vector>
+
+class AxesXYZ;
+class GridSolid3D;
+class Profile;
+class Transformed3d;
+class WorkPlane;
+
+// What a viewport shows: the scene objects, lights, workplanes and profiles with the grid,
+// the two axes glyphs and the display switches. The editor's main window owns one; the
+// command-line tool builds one from a file.
+struct SceneDocument {
+    std::vector<std::shared_ptr<Transformed3d>> solids;
+    LightList light_sources;
+    std::vector<std::shared_ptr<WorkPlane>> workPlanes;
+    std::vector<std::shared_ptr<Profile>> profiles;
+    std::shared_ptr<GridSolid3D> grid;
+    std::shared_ptr<AxesXYZ> referenceAxes;
+    std::shared_ptr<AxesXYZ> zeroAxes;
+    bool showGrid = true;
+    bool showZeroAxes = true;
+    bool showReferenceAxes = true;
+    int profileRed = 0;
+    int profileGreen = 100;
+    int profileBlue = 255;
+
+    // The document as the editor starts: no objects, four white lights, the 20 x 20 grid
+    // and both axes glyphs, every switch on.
+    static SceneDocument startUp();
+};

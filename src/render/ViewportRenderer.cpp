@@ -1,0 +1,90 @@
+#include "render/ViewportRenderer.h"
+
+#include "render/KorvanOpsConsts.h"
+#include "render/LightRanges.h"
+#include "scene/AxesXYZ.h"
+#include "scene/GridSolid3D.h"
+#include "scene/Profile.h"
+#include "scene/Transformed3d.h"
+#include "scene/WorkPlane.h"
+
+void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
+                                      SceneDocument& document) {
+    float ex;
+    float ey;
+    float ez;
+    KorvanOpsConsts::getEyePosition(record, ex, ey, ez);
+    const Matrix4 full = KorvanOpsConsts::getFullViewMatrix(canvas, record);
+
+    // Pure wireframe shows back faces too; every other mode culls them.
+    const bool cullBackFaces = !(record.wireFrame && !record.HideSurfaces);
+    for (const auto& object : document.solids) {
+        object->Culled(false);
+        object->HideSurfaces(record.HideSurfaces);
+        if (cullBackFaces) {
+            object->cull(ex, ey, ez);
+        }
+    }
+    for (const auto& object : document.solids) {
+        object->ApplyFull(full);
+        object->clipEye(record.EyeR);
+    }
+    for (const auto& workPlane : document.workPlanes) {
+        workPlane->ApplyFull(full);
+        workPlane->clipEye(record.EyeR);
+    }
+    for (const auto& profile : document.profiles) {
+        profile->ApplyFull(full);
+    }
+    const bool showGrid = document.showGrid && document.grid;
+    if (showGrid) {
+        document.grid->cull(ex, ey, ez);
+        document.grid->ApplyFull(full);
+        document.grid->clipEye(record.EyeR);
+    }
+    const auto sorted = sortSolidsByDepth(document);
+    LightRanges::updateLightRanges(document.light_sources, document.solids);
+
+    canvas.setFillStyle(FillSolid);
+    canvas.setDrawStyle(DrawInvisible);
+    canvas.clear();
+    if (showGrid) {
+        document.grid->draw(canvas, document.light_sources, ambientLight, ex, ey, ez, false, true,
+                            gridGrey, gridGrey, gridGrey);
+    }
+    for (const auto& object : sorted) {
+        const bool selected = object->isSelected();
+        object->draw(canvas, document.light_sources, ambientLight, ex, ey, ez, false, false,
+                     record.wireFrame, selected ? selectedObjectRed : -1,
+                     selected ? selectedObjectGreen : -1, selected ? selectedObjectBlue : -1,
+                     selectedFaceRed, selectedFaceGreen, selectedFaceBlue);
+    }
+    for (const auto& workPlane : document.workPlanes) {
+        workPlane->draw(canvas, workplaneFillStyle, workplaneTintRed, workplaneTintGreen,
+                        workplaneTintBlue);
+    }
+    for (const auto& profile : document.profiles) {
+        profile->draw(canvas, document.profileRed, document.profileGreen, document.profileBlue);
+    }
+    if (document.showReferenceAxes && document.referenceAxes) {
+        document.referenceAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
+                                     record.ProjectionType, true, 0, 0);
+    }
+    if (document.showZeroAxes && document.zeroAxes) {
+        document.zeroAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
+                                record.ProjectionType, false, record.shiftx, record.shifty);
+    }
+}
+
+std::vector<std::shared_ptr<Transformed3d>>
+ViewportRenderer::sortSolidsByDepth(const SceneDocument& document) {
+    if (!depthSorter_) {
+        depthSorter_ = std::make_unique<RadixSort<Transformed3d>>();
+    }
+    depthSorter_->reset(8);
+    for (const auto& object : document.solids) {
+        object->SetZMax();
+        depthSorter_->addObject(object, object->zmax());
+    }
+    return depthSorter_->getSortedObjects();
+}
