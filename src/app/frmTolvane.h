@@ -7,4 +7,10 @@
 class frmTolvane {
 public:
     std::string caption() const { return "Korvan Version 2.0"; }
+
+    void setMouseSensivity(float Sensivity) { MouseSensivity = Sensivity; }
+    float getMouseSensivity() const { return MouseSensivity; }
+
+private:
+    float MouseSensivity = 0.0025f;
 };
