@@ -26,22 +26,26 @@ float SngRoot(float base, float exponent) {
         return base;
     }
     for (int64_t i = 1; i <= repetitions; ++i) {
-        result = result * base;
-        if (std::isinf(result)) {
+        const float next = result * base;
+        if (std::isinf(next)) {
             showMessage("Function SngRoot has failed because of an overflow error using base " +
                             NumberText::single(base) + " to the " + NumberText::single(exponent) +
                             " power.",
                         "Run-Time Error", MessageIcon::Critical);
             return 0.0f;
         }
-        if (result == 0.0f) {
-            // Further factors keep it zero; only its sign still flips, once for every
-            // remaining negative factor.
-            if (std::signbit(base) && (repetitions - i) % 2 == 1) {
+        if (std::fabs(next) == std::fabs(result)) {
+            // The magnitude no longer changes (zero, or a tiny value that rounds back to
+            // itself), so the remaining factors can only flip the sign, once for each of
+            // them when the base is negative. Without this a large exponent would keep the
+            // loop running for seconds.
+            const int64_t remaining = repetitions - i + 1;
+            if (std::signbit(base) && remaining % 2 == 1) {
                 result = -result;
             }
             break;
         }
+        result = next;
     }
     return result;
 }
