@@ -62,6 +62,12 @@ public:
     virtual void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
                                int sw, int sh) = 0;
 
+    // Placement in the owning window, in the window's pixels; a canvas in a window takes the
+    // new size. A canvas that lives in no window (a file being written) ignores it.
+    virtual void move(int /*left*/, int /*top*/, int /*width*/, int /*height*/) {}
+    bool isVisible() const { return visible_; }
+    virtual void setVisible(bool visible) { visible_ = visible; }
+
     int fillStyle() const { return fillStyle_; }
     void setFillStyle(int style) { fillStyle_ = style; }
     int drawStyle() const { return drawStyle_; }
@@ -83,4 +89,5 @@ private:
     int32_t fillColor_ = 0;
     int32_t backColor_ = 0; // viewports are black, so that white axes and grey grid stand out
     int mousePointer_ = 0;
+    bool visible_ = true;
 };

@@ -1,12 +1,66 @@
 #include "qt/CanvasWidget.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
 
-CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), canvas_(width(), height()) {
+namespace {
+
+int shiftState(Qt::KeyboardModifiers modifiers) {
+    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
+           (modifiers & Qt::AltModifier ? 4 : 0);
+}
+
+int buttonCode(Qt::MouseButtons buttons) {
+    return (buttons & Qt::LeftButton ? 1 : 0) + (buttons & Qt::RightButton ? 2 : 0) +
+           (buttons & Qt::MiddleButton ? 4 : 0);
+}
+
+Qt::CursorShape cursorFor(int pointer) {
+    switch (pointer) {
+    case 2:
+        return Qt::CrossCursor;
+    case 6:
+        return Qt::SizeBDiagCursor;
+    case 7:
+        return Qt::SizeVerCursor;
+    case 11:
+        return Qt::WaitCursor;
+    case 15:
+        return Qt::SizeAllCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
+}
+
+} // namespace
+
+CanvasWidget::Surface::Surface(CanvasWidget& widget)
+    : QtCanvas(widget.width(), widget.height()), widget_(widget) {}
+
+void CanvasWidget::Surface::move(int left, int top, int width, int height) {
+    resize(width, height);
+    widget_.setGeometry(left, top, width, height);
+}
+
+void CanvasWidget::Surface::setVisible(bool visible) {
+    QtCanvas::setVisible(visible);
+    widget_.setVisible(visible);
+}
+
+void CanvasWidget::Surface::setMousePointer(int pointer) {
+    QtCanvas::setMousePointer(pointer);
+    widget_.setCursor(cursorFor(pointer));
+}
+
+void CanvasWidget::Surface::refresh() {
+    widget_.update();
+}
+
+CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), canvas_(*this) {
     // The image covers the whole widget, so Qt need not erase the background first.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    canvas_.setRefreshHandler([this] { update(); });
+    setMouseTracking(true);
 }
 
 void CanvasWidget::paintEvent(QPaintEvent*) {
@@ -15,6 +69,18 @@ void CanvasWidget::paintEvent(QPaintEvent*) {
 }
 
 void CanvasWidget::resizeEvent(QResizeEvent* event) {
-    canvas_.resize(event->size().width(), event->size().height());
+    if (event->size() != canvas_.image().size()) {
+        canvas_.resize(event->size().width(), event->size().height());
+    }
     QWidget::resizeEvent(event);
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    emit mousePressed(buttonCode(event->button()), shiftState(event->modifiers()),
+                      event->position().x(), event->position().y());
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
+    emit mouseMoved(buttonCode(event->buttons()), shiftState(event->modifiers()),
+                    event->position().x(), event->position().y());
 }

@@ -123,11 +123,7 @@ void QtCanvas::clear() {
     image_.fill(toQColor(backColor()));
 }
 
-void QtCanvas::refresh() {
-    if (refreshHandler_) {
-        refreshHandler_();
-    }
-}
+void QtCanvas::refresh() {}
 
 void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
                              int sw, int sh) {

@@ -4,15 +4,14 @@
 
 #include <QFont>
 #include <QImage>
-#include <functional>
 #include <string>
 #include <utility>
 
 class QPainter;
 
 // A canvas painted into a persistent image, pixel for pixel without antialiasing, the way a
-// picture box keeps its picture. It is not a widget: whoever shows the image sets the
-// refresh handler to repaint it.
+// picture box keeps its picture. It is not a widget: refresh does nothing here, and a
+// canvas shown on screen (CanvasWidget) repaints its widget instead.
 class QtCanvas : public Canvas {
 public:
     QtCanvas(int width, int height);
@@ -20,7 +19,6 @@ public:
     // Replaces the image by one of the new size, cleared to the back colour, keeping what
     // the old image and the new one have in common.
     void resize(int width, int height);
-    void setRefreshHandler(std::function<void()> handler) { refreshHandler_ = std::move(handler); }
 
     int scaleWidth() const override { return image_.width(); }
     int scaleHeight() const override { return image_.height(); }
@@ -47,5 +45,4 @@ private:
     int fontAscent_;
     int penX_ = 0;
     int penY_ = 0;
-    std::function<void()> refreshHandler_;
 };

@@ -1,5 +1,7 @@
+#include "app/frmSplash.h"
 #include "app/frmTolvane.h"
 #include "qt/QtPrompts.h"
+#include "qt/frmSplashView.h"
 #include "qt/frmTolvaneView.h"
 
 #include <QApplication>
@@ -10,7 +12,13 @@ int main(int argc, char** argv) {
     frmTolvaneView window(form);
     QtPrompts prompts(&window);
     installPrompts(&prompts);
-    window.show();
+
+    // The splash plays first and shows the main window when it is done.
+    frmSplash splashForm;
+    frmSplashView splash(splashForm);
+    QObject::connect(&splash, &frmSplashView::finished, &window, &QWidget::show);
+    splash.show();
+
     const int status = QApplication::exec();
     installPrompts(nullptr);
     return status;

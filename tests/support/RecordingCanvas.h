@@ -29,6 +29,13 @@ public:
         width_ = width;
         height_ = height;
     }
+    void move(int left, int top, int width, int height) override {
+        left_ = left;
+        top_ = top;
+        resize(width, height);
+    }
+    int left() const { return left_; }
+    int top() const { return top_; }
 
     void polygon(const std::vector<CanvasPoint>& points) override { record(Kind::Polygon, points); }
     void moveTo(int x, int y) override { record(Kind::MoveTo, {{x, y}}); }
@@ -51,5 +58,7 @@ private:
 
     int width_;
     int height_;
+    int left_ = 0;
+    int top_ = 0;
     std::vector<Call> calls_;
 };

@@ -1,0 +1,36 @@
+#include "BenchScenes.h"
+#include "app/frmTolvane.h"
+#include "qt/QtCanvas.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+// The main window's full redraw (all four viewports, hidden ones too) for a 1600 x 900
+// client area, painted into Qt canvases: what every mouse movement over a viewport costs.
+void redrawAll(benchmark::State& state, bool prisms) {
+    std::array<QtCanvas, 4> canvases{QtCanvas(1, 1), QtCanvas(1, 1), QtCanvas(1, 1),
+                                     QtCanvas(1, 1)};
+    frmTolvane form;
+    form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+    if (prisms) {
+        form.getDocument().solids = BenchScenes::twentyPrisms().solids;
+    }
+    form.setViewportLayout(static_cast<int32_t>(state.range(0)));
+    form.Form_Resize(1600, 900);
+    for (auto _ : state) {
+        form.redrawAllViewports();
+        benchmark::ClobberMemory();
+    }
+}
+
+} // namespace
+
+static void BM_RedrawAll_StartUp(benchmark::State& state) {
+    redrawAll(state, false);
+}
+static void BM_RedrawAll_20Prisms(benchmark::State& state) {
+    redrawAll(state, true);
+}
+BENCHMARK(BM_RedrawAll_StartUp)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RedrawAll_20Prisms)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);

@@ -1,0 +1,156 @@
+#include "app/frmTolvane.h"
+
+#include "interaction/ClickHandleScroll.h"
+#include "interaction/ClickHandleZoom.h"
+#include "render/KorvanOpsConsts.h"
+#include "render/LightSource.h"
+#include "support/RecordingCanvas.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A main window with four recording canvases attached.
+struct Window {
+    std::array<RecordingCanvas, 4> canvases;
+    frmTolvane form;
+
+    Window() {
+        form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        form.Form_Load();
+    }
+
+    // A drag from (x0, y0) to (x1, y1) on canvas index: the pointer arrives, then moves
+    // with the given buttons held.
+    void drag(int index, int buttons, float x0, float y0, float x1, float y1) {
+        form.picOrtho_MouseMove(index, 0, 0, x0, y0);
+        form.picOrtho_MouseMove(index, buttons, 0, x1, y1);
+    }
+};
+
+} // namespace
+
+TEST(frmTolvane, StartsWithTheDocumentViewsAndSingleViewport) {
+    Window w;
+    EXPECT_EQ(w.form.caption(), "Korvan Version 2.0");
+    EXPECT_EQ(w.form.getMouseSensivity(), 0.0025f);
+    EXPECT_EQ(w.form.getViewportLayout(), 1);
+    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), 15); // rotate
+
+    const float quarter = static_cast<float>(3.14159265358979 / 2);
+    EXPECT_EQ(w.form.getViewSpecs(1).EyePhi, quarter); // top
+    EXPECT_EQ(w.form.getViewSpecs(2).EyeTheta, 0.0f);  // side
+    EXPECT_EQ(w.form.getViewSpecs(2).EyePhi, 0.0f);
+    EXPECT_EQ(w.form.getViewSpecs(3).EyeTheta, quarter); // front
+    EXPECT_EQ(w.form.getViewSpecs(4).EyeTheta, static_cast<float>(0.6283185307179581));
+    for (int i = 1; i <= 4; ++i) {
+        const ViewSpecs& v = w.form.getViewSpecs(i);
+        EXPECT_EQ(v.zoom, 200.0f);
+        EXPECT_EQ(v.ProjectionType, 1);
+        EXPECT_EQ(v.EyeR, 10.0f);
+        EXPECT_TRUE(v.HideSurfaces);
+        EXPECT_FALSE(v.wireFrame);
+    }
+
+    const LightList& lights = w.form.getDocument().light_sources;
+    ASSERT_EQ(lights.size(), 4u);
+    EXPECT_EQ(lights[0]->x, -300.0f);
+    EXPECT_EQ(lights[0]->y, 300.0f);
+    EXPECT_EQ(lights[3]->y, -300.0f);
+    EXPECT_EQ(lights[1]->Ir, 200.0f);
+
+    // Loading drew every viewport: cleared, then refreshed.
+    for (const auto& canvas : w.canvases) {
+        ASSERT_FALSE(canvas.calls().empty());
+        EXPECT_EQ(canvas.calls().front().kind, RecordingCanvas::Kind::Clear);
+        EXPECT_EQ(canvas.calls().back().kind, RecordingCanvas::Kind::Refresh);
+    }
+}
+
+TEST(frmTolvane, LaysOutOneOrFourViewportsBesideTheTree) {
+    Window w;
+    w.form.Form_Resize(1000, 600);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_FALSE(w.canvases[static_cast<size_t>(i)].isVisible());
+        EXPECT_EQ(w.canvases[static_cast<size_t>(i)].scaleWidth(), 0);
+    }
+    EXPECT_TRUE(w.canvases[3].isVisible());
+    EXPECT_EQ(w.canvases[3].scaleWidth(), 800);
+    EXPECT_EQ(w.canvases[3].scaleHeight(), 600);
+    EXPECT_EQ(w.form.getTreePlacement(), (ControlPlacement{800, 0, 200, 600}));
+
+    // Below a height of 120 the canvases are laid out as if it were 120; the tree is not.
+    w.form.Form_Resize(1000, 90);
+    EXPECT_EQ(w.canvases[3].scaleHeight(), 120);
+    EXPECT_EQ(w.form.getTreePlacement().height, 90);
+
+    w.form.setViewportLayout(4);
+    w.form.Form_Resize(1000, 600);
+    for (const auto& canvas : w.canvases) {
+        EXPECT_TRUE(canvas.isVisible());
+        EXPECT_EQ(canvas.scaleWidth(), 400);
+        EXPECT_EQ(canvas.scaleHeight(), 300);
+    }
+    EXPECT_EQ(w.canvases[3].left(), 400);
+    EXPECT_EQ(w.canvases[3].top(), 300);
+    EXPECT_EQ(w.canvases[1].left(), 400);
+    EXPECT_EQ(w.canvases[1].top(), 0);
+}
+
+TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
+    Window w;
+    w.form.setMouseSensivity(0.01f);
+    const ViewSpecs before = w.form.getViewSpecs(4);
+    w.drag(3, 1, 100, 100, 110, 95);
+    const ViewSpecs& turned = w.form.getViewSpecs(4);
+    EXPECT_NEAR(turned.EyeTheta - before.EyeTheta, 0.1, 1e-6);
+    EXPECT_NEAR(turned.EyePhi - before.EyePhi, -0.05, 1e-6);
+    EXPECT_EQ(turned.anchorX, 110);
+    EXPECT_EQ(turned.anchorY, 95);
+    EXPECT_EQ(w.canvases[3].mousePointer(), 15);
+    // Only the record of the canvas under the mouse changes.
+    EXPECT_EQ(w.form.getViewSpecs(1).EyeTheta, 0.0f);
+
+    w.form.setMouseSensivity(0.0025f);
+    w.form.setMouseMode(std::make_unique<ClickHandleZoom>());
+    w.drag(3, 1, 0, 0, 50, 0);
+    EXPECT_EQ(w.form.getViewSpecs(4).zoom, 200.0f);
+    w.drag(3, 1, 0, 0, 0, 30);
+    EXPECT_NEAR(w.form.getViewSpecs(4).zoom, 225.0f, 1e-4);
+
+    w.form.setMouseMode(std::make_unique<ClickHandleScroll>());
+    w.drag(3, 1, 0, 0, 4, -2);
+    EXPECT_NEAR(w.form.getViewSpecs(4).shiftx, 5.0f, 1e-5);
+    EXPECT_NEAR(w.form.getViewSpecs(4).shifty, -2.5f, 1e-5);
+
+    // Left and right together change nothing but the anchor, under the crosshair.
+    const ViewSpecs held = w.form.getViewSpecs(4);
+    w.drag(3, 3, 0, 0, 40, 40);
+    ViewSpecs expected = held;
+    expected.anchorX = 40;
+    expected.anchorY = 40;
+    EXPECT_EQ(w.form.getViewSpecs(4), expected);
+    EXPECT_EQ(w.canvases[3].mousePointer(), 2);
+}
+
+TEST(frmTolvane, PressesAndViewInfoCopies) {
+    Window w;
+    const ViewSpecs before = w.form.getViewSpecs(2);
+    w.form.picOrtho_MouseDown(1, 2, 0, 10, 10);
+    EXPECT_EQ(w.form.getPopupViewport(), 2);
+    EXPECT_EQ(w.form.getViewSpecs(2), before);
+
+    EXPECT_FALSE(w.form.getViewInfo(0));
+    EXPECT_FALSE(w.form.getViewInfo(5));
+    auto info = w.form.getViewInfo(4);
+    ASSERT_TRUE(info);
+    ViewSpecs changed = info->getSpecs();
+    changed.zoom = 1;
+    info->setSpecs(changed);
+    EXPECT_EQ(w.form.getViewSpecs(4).zoom, 200.0f);
+    int32_t lower = -1;
+    int32_t upper = -1;
+    w.form.getPicOrthoBounds(lower, upper);
+    EXPECT_EQ(lower, 0);
+    EXPECT_EQ(upper, 3);
+}
