@@ -39,7 +39,7 @@ CanvasWidget::Surface::Surface(CanvasWidget& widget)
     : QtCanvas(widget.width(), widget.height()), widget_(widget) {}
 
 void CanvasWidget::Surface::move(int left, int top, int width, int height) {
-    resize(width, height);
+    QtCanvas::move(left, top, width, height);
     widget_.setGeometry(left, top, width, height);
 }
 

@@ -123,6 +123,8 @@ void QtCanvas::clear() {
     image_.fill(toQColor(backColor()));
 }
 
+void QtCanvas::move(int, int, int width, int height) { resize(width, height); }
+
 void QtCanvas::refresh() {}
 
 void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,

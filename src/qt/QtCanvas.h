@@ -20,6 +20,9 @@ public:
     // the old image and the new one have in common.
     void resize(int width, int height);
 
+    // Takes the new size; the position belongs to whoever shows the image.
+    void move(int left, int top, int width, int height) override;
+
     int scaleWidth() const override { return image_.width(); }
     int scaleHeight() const override { return image_.height(); }
 
