@@ -56,11 +56,11 @@ void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, con
         const auto rv =
             static_cast<float>(static_cast<double>(rx) * vx + static_cast<double>(ry) * vy +
                                static_cast<double>(rz) * vz);
-        const double spec = static_cast<double>(RootMod::SngRoot(rv, s.SpecularN)) *
+        const double specular = static_cast<double>(RootMod::SngRoot(rv, s.SpecularN)) *
                             static_cast<double>(s.SpecularK);
-        c.red = Rounding::toInt32(c.red + light->Ir * spec);
-        c.green = Rounding::toInt32(c.green + light->Ig * spec);
-        c.blue = Rounding::toInt32(c.blue + light->Ib * spec);
+        c.red = Rounding::toInt32(c.red + light->Ir * specular);
+        c.green = Rounding::toInt32(c.green + light->Ig * specular);
+        c.blue = Rounding::toInt32(c.blue + light->Ib * specular);
     }
 }
 
