@@ -15,10 +15,7 @@ namespace {
 template <class D> void whenShown(std::function<void(D&)> act) {
     QTimer::singleShot(0, [act] {
         auto* dialog = qobject_cast<D*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            ADD_FAILURE() << "no modal dialog of the expected type";
-            return;
-        }
+        ASSERT_NE(dialog, nullptr) << "no modal dialog of the expected type";
         act(*dialog);
     });
 }
@@ -28,49 +25,35 @@ template <class D> void whenShown(std::function<void(D&)> act) {
 TEST(QtFileChooser, StartsInTheProgramFolderEveryTimeAndAcceptsNewNames) {
     QtFileChooser chooser;
     QTemporaryDir elsewhere;
-    const QString programFolder = QDir(QCoreApplication::applicationDirPath()).absolutePath();
     const QString newName = elsewhere.path() + "/not yet.tvm";
-
-    QString startedIn;
-    QStringList filters;
-    QString title;
+    QStringList seen; // the start folder, title and filters of every dialog
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
-        startedIn = dialog.directory().absolutePath();
-        filters = dialog.nameFilters();
-        title = dialog.windowTitle();
+        seen << dialog.directory().absolutePath() << dialog.windowTitle() << dialog.nameFilters();
         dialog.selectFile(newName);
         static_cast<QDialog&>(dialog).accept(); // QFileDialog hides the public slot
     });
     EXPECT_EQ(chooser.chooseFile("Save File", "Tavrin Mesh File(*.tvm)|*.tvm"),
               newName.toStdString());
-    EXPECT_EQ(startedIn, programFolder);
-    EXPECT_EQ(filters, QStringList{"Tavrin Mesh File(*.tvm)"});
-    EXPECT_EQ(title, "Save File");
-
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
-        startedIn = dialog.directory().absolutePath();
-        filters = dialog.nameFilters();
+        seen << dialog.directory().absolutePath() << dialog.windowTitle() << dialog.nameFilters();
         dialog.reject();
     });
     EXPECT_EQ(chooser.chooseFile("Open File", "Bitmaps|*.bmp"), "");
-    EXPECT_EQ(startedIn, programFolder);
-    EXPECT_EQ(filters, QStringList{"Bitmaps (*.bmp)"});
+    const QString folder = QDir(QCoreApplication::applicationDirPath()).absolutePath();
+    EXPECT_EQ(seen, (QStringList{folder, "Save File", "Tavrin Mesh File(*.tvm)", folder,
+                                 "Open File", "Bitmaps (*.bmp)"}));
 }
 
 TEST(QtColorChooser, ReturnsPackedColourBlackAsZeroAndCancelAsMinusOne) {
     QtColorChooser chooser;
-    const auto choose = [](QColor color) {
-        whenShown<QColorDialog>([color](QColorDialog& dialog) {
-            dialog.setCurrentColor(color);
+    for (const auto& chosen : {std::pair{QColor(255, 128, 1), 255 + 256 * 128 + 65536 * 1},
+                               std::pair{QColor(0, 0, 0), 0}}) {
+        whenShown<QColorDialog>([colour = chosen.first](QColorDialog& dialog) {
+            dialog.setCurrentColor(colour);
             dialog.accept();
         });
-    };
-
-    choose(QColor(255, 128, 1));
-    EXPECT_EQ(chooser.chooseColor(0), 255 + 256 * 128 + 65536 * 1);
-    choose(QColor(0, 0, 0));
-    EXPECT_EQ(chooser.chooseColor(0xFFFFFF), 0);
-
+        EXPECT_EQ(chooser.chooseColor(0xFFFFFF), chosen.second);
+    }
     // Custom colours defined in one call are gone in the next.
     QColorDialog::setCustomColor(0, QColor(Qt::red));
     QColor firstCustom;

@@ -15,8 +15,6 @@ GDIRegion region(const std::vector<CanvasPoint>& points, int fillmode) {
 }
 
 const std::vector<CanvasPoint> square{{10, 10}, {50, 10}, {50, 50}, {10, 50}};
-// Corners of a regular pentagon around (100, 100), joined every second one.
-const std::vector<CanvasPoint> pentagram{{100, 20}, {147, 165}, {24, 75}, {176, 75}, {53, 165}};
 
 // Winding number of pixel centre (x + 0.5, y + 0.5) in exact integer arithmetic on doubled
 // coordinates; a centre on an edge counts with the side to its right.
@@ -41,82 +39,56 @@ int referenceWinding(const std::vector<CanvasPoint>& poly, int64_t x, int64_t y)
 
 TEST(GDIRegion, SquareCoversTopLeftInclusiveBottomRightExclusive) {
     const GDIRegion r = region(square, GDIRegion::WindingFill);
-    EXPECT_TRUE(r.inRegion(30, 30));
-    EXPECT_FALSE(r.inRegion(5, 5));
-    EXPECT_TRUE(r.inRegion(10, 10));
-    EXPECT_TRUE(r.inRegion(49, 49));
-    EXPECT_FALSE(r.inRegion(50, 30));
-    EXPECT_FALSE(r.inRegion(30, 50));
-    EXPECT_FALSE(r.inRegion(9, 30));
+    EXPECT_TRUE(r.inRegion(10, 10) && r.inRegion(49, 49));
+    EXPECT_FALSE(r.inRegion(9, 30) || r.inRegion(50, 30) || r.inRegion(30, 50));
+    EXPECT_TRUE(r.rectInRegion({0, 0, 11, 11}));    // over the corner pixel
+    EXPECT_FALSE(r.rectInRegion({0, 0, 10, 10}));   // just before it
+    EXPECT_FALSE(r.rectInRegion({40, 40, 20, 20})); // inverted
 }
 
 TEST(GDIRegion, FillRulesOnSelfIntersectingPolygons) {
     const std::vector<CanvasPoint> bowTie{{0, 0}, {40, 40}, {40, 0}, {0, 40}};
+    // Corners of a regular pentagon around (100, 100), joined every second one.
+    const std::vector<CanvasPoint> pentagram{{100, 20}, {147, 165}, {24, 75}, {176, 75}, {53, 165}};
     for (int mode : {GDIRegion::AlternateFill, GDIRegion::WindingFill}) {
         const GDIRegion tie = region(bowTie, mode);
-        EXPECT_TRUE(tie.inRegion(5, 20));
-        EXPECT_TRUE(tie.inRegion(35, 20));
-        EXPECT_FALSE(tie.inRegion(20, 5));
-        EXPECT_FALSE(tie.inRegion(20, 35));
+        EXPECT_TRUE(tie.inRegion(5, 20) && tie.inRegion(35, 20));
+        EXPECT_FALSE(tie.inRegion(20, 5) || tie.inRegion(20, 35));
         const GDIRegion star = region(pentagram, mode);
         EXPECT_TRUE(star.inRegion(100, 40)); // a point of the star
         EXPECT_FALSE(star.inRegion(30, 140));
+        // The centre is wound twice: only the non-zero rule fills it.
+        EXPECT_EQ(star.inRegion(100, 100), mode == GDIRegion::WindingFill);
+        EXPECT_EQ(star.rectInRegion({90, 90, 111, 111}), mode == GDIRegion::WindingFill);
     }
-    EXPECT_FALSE(region(pentagram, GDIRegion::AlternateFill).inRegion(100, 100));
-    EXPECT_TRUE(region(pentagram, GDIRegion::WindingFill).inRegion(100, 100));
-    EXPECT_FALSE(region(pentagram, GDIRegion::AlternateFill).rectInRegion({90, 90, 111, 111}));
-    EXPECT_TRUE(region(pentagram, GDIRegion::WindingFill).rectInRegion({90, 90, 111, 111}));
 }
 
-TEST(GDIRegion, RectanglesAgainstSquare) {
-    const GDIRegion r = region(square, GDIRegion::WindingFill);
-    EXPECT_TRUE(r.rectWithinRegionParameter(0, 0, 11, 11));   // overlaps the corner pixel
-    EXPECT_FALSE(r.rectWithinRegionParameter(0, 0, 10, 10));  // ends just before it
-    EXPECT_FALSE(r.rectWithinRegionParameter(50, 0, 60, 60)); // right of the last column
-    EXPECT_FALSE(r.rectWithinRegionParameter(60, 60, 70, 70));
-    EXPECT_TRUE(r.rectWithinRegionParameter(0, 0, 100, 100));  // encloses the square
-    EXPECT_TRUE(r.rectWithinRegionParameter(20, 20, 30, 30));  // inside it
-    EXPECT_FALSE(r.rectWithinRegionParameter(30, 30, 30, 40)); // no pixel
-    EXPECT_FALSE(r.rectWithinRegionParameter(40, 40, 20, 20));
-}
-
-TEST(GDIRegion, RegionsWithoutPixelsHitNothing) {
-    const std::vector<std::vector<CanvasPoint>> polygons{
-        {},
-        {{5, 5}},
-        {{0, 0}, {20, 20}},
-        {{0, 0}, {10, 10}, {20, 20}},
-        {{0, 5}, {20, 5}, {10, 5}},
-        {{5, 5}, {5, 5}, {5, 5}},
-        // a sliver with area that passes between the centres of its only row
-        {{0, 0}, {3, 1}, {2, 1}}};
+TEST(GDIRegion, ReplacingThePolygonForgetsTheOldOneAndDegenerateOnesHitNothing) {
+    GDIRegion r = region(square, GDIRegion::WindingFill);
+    // No area, or a sliver with area that passes between the centres of its only row.
+    const std::vector<std::vector<CanvasPoint>> polygons{{},
+                                                         {{5, 5}},
+                                                         {{0, 0}, {20, 20}},
+                                                         {{0, 0}, {10, 10}, {20, 20}},
+                                                         {{0, 5}, {20, 5}, {10, 5}},
+                                                         {{5, 5}, {5, 5}, {5, 5}},
+                                                         {{0, 0}, {3, 1}, {2, 1}}};
     for (const auto& polygon : polygons) {
         for (int mode : {GDIRegion::AlternateFill, GDIRegion::WindingFill}) {
-            const GDIRegion r = region(polygon, mode);
-            EXPECT_FALSE(r.rectWithinRegionParameter(-10, -10, 30, 30));
-            EXPECT_FALSE(r.inRegion(5, 5));
-            EXPECT_FALSE(r.inRegion(1, 0));
+            r.createPolygonRegion(polygon, mode);
+            EXPECT_FALSE(r.rectInRegion({-10, -10, 30, 30}) || r.inRegion(5, 5) ||
+                         r.inRegion(1, 0));
         }
     }
-    EXPECT_FALSE(region(square, 0).inRegion(30, 30)); // no such fill mode
-}
-
-TEST(GDIRegion, ReplacingThePolygonForgetsTheOldOne) {
-    GDIRegion r;
-    r.createPolygonRegion(square, GDIRegion::WindingFill);
-    r.createPolygonRegion({{100, 100}, {120, 100}, {120, 120}}, GDIRegion::AlternateFill);
+    r.createPolygonRegion(square, 0); // no such fill mode: no region at all
     EXPECT_FALSE(r.inRegion(30, 30));
-    EXPECT_TRUE(r.inRegion(115, 105));
-    EXPECT_FALSE(r.rectInRegion({0, 0, 60, 60}));
 }
 
 TEST(GDIRegion, CornersAtTheEndsOfTheIntegerRange) {
     constexpr int32_t lo = std::numeric_limits<int32_t>::min();
     constexpr int32_t hi = std::numeric_limits<int32_t>::max();
     const GDIRegion all = region({{lo, lo}, {hi, lo}, {hi, hi}, {lo, hi}}, GDIRegion::WindingFill);
-    EXPECT_TRUE(all.inRegion(0, 0));
-    EXPECT_TRUE(all.inRegion(lo, lo));
-    EXPECT_TRUE(all.inRegion(hi - 1, hi - 1));
+    EXPECT_TRUE(all.inRegion(0, 0) && all.inRegion(lo, lo) && all.inRegion(hi - 1, hi - 1));
     EXPECT_FALSE(all.inRegion(hi, 0));
     EXPECT_TRUE(all.rectInRegion({lo, lo, hi, hi}));
     // A face with one corner far behind the eye still covers its visible part.
@@ -126,8 +98,8 @@ TEST(GDIRegion, CornersAtTheEndsOfTheIntegerRange) {
     EXPECT_TRUE(wedge.rectInRegion({40, 10000, 60, 10010}));
 }
 
-// Every covered pixel agrees with an exact integer reference, and a rectangle is hit exactly
-// when one of its pixels is covered.
+// Every covered pixel agrees with an exact integer reference, and a rectangle (given as
+// left, top, right, bottom) is hit exactly when one of its pixels is covered.
 TEST(GDIRegion, AgreesWithExactReferenceOnRandomPolygons) {
     std::mt19937 random(7);
     std::uniform_int_distribution<int32_t> coordinate(0, 16);
@@ -157,7 +129,8 @@ TEST(GDIRegion, AgreesWithExactReferenceOnRandomPolygons) {
                     any = any || covered[y + 1][x + 1];
                 }
             }
-            ASSERT_EQ(r.rectInRegion({left, top, right, bottom}), any) << trial << " " << k;
+            ASSERT_EQ(r.rectWithinRegionParameter(left, top, right, bottom), any)
+                << trial << " " << k;
         }
     }
 }

@@ -1,4 +1,3 @@
-#include "geometry/M3Ops.h"
 #include "geometry/Vector3D.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/viewInfo.h"
@@ -12,33 +11,20 @@
 namespace {
 
 using Kind = RecordingCanvas::Kind;
+using Points = std::vector<std::pair<int, int>>;
 
-constexpr int32_t white = 16777215;
-
-// The grid's steps of a viewport redraw, then its draw as the renderer calls it.
-void renderGrid(GridSolid3D& grid, RecordingCanvas& canvas, const ViewSpecs& view,
-                const LightList& lights) {
-    float ex;
-    float ey;
-    float ez;
-    KorvanOpsConsts::getEyePosition(view, ex, ey, ez);
-    grid.resetTransformedPoints();
-    grid.cull(ex, ey, ez);
-    EXPECT_FALSE(grid.ApplyFull(KorvanOpsConsts::getFullViewMatrix(canvas, view)));
-    grid.clipEye(view.EyeR);
-    grid.draw(canvas, lights, 50, ex, ey, ez, false, true, 100, 100, 100);
-}
-
-void expectPoint(const RecordingCanvas::Call& call, Kind kind, int x, int y) {
+void expectCall(const RecordingCanvas::Call& call, Kind kind, const Points& points) {
     EXPECT_EQ(call.kind, kind);
-    ASSERT_EQ(call.points.size(), 1u);
-    EXPECT_EQ(call.points[0].x, x);
-    EXPECT_EQ(call.points[0].y, y);
+    Points actual;
+    for (const auto& p : call.points) {
+        actual.emplace_back(p.x, p.y);
+    }
+    EXPECT_EQ(actual, points);
 }
 
 } // namespace
 
-TEST(GridSolid3D, StartUpGridIsTwentyByTwentyPointsOfUpwardQuads) {
+TEST(GridSolid3D, StartUpGridIsTwentyByTwentyPointsOfUpwardQuadsCulledFromBelow) {
     GridSolid3D grid;
     ASSERT_TRUE(grid.initialize(10.0f, -1.0f, 20, 10.0f, -1.0f, 20));
     const Solid3d& solid = *grid.getSolid();
@@ -51,100 +37,67 @@ TEST(GridSolid3D, StartUpGridIsTwentyByTwentyPointsOfUpwardQuads) {
     // The second column of quads starts on the next column of points.
     EXPECT_EQ(solid.faces[19]->getIndices(), (std::vector<int32_t>{21, 22, 42, 41}));
     EXPECT_EQ(solid.faces[360]->getIndices(), (std::vector<int32_t>{379, 380, 400, 399}));
-    for (const auto& face : solid.faces) {
-        float nx;
-        float ny;
-        float nz;
-        face->NormalVector(nx, ny, nz);
-        EXPECT_EQ(nx, 0.0f);
-        EXPECT_GT(ny, 0.0f);
-        EXPECT_EQ(nz, 0.0f);
-    }
-}
 
-TEST(GridSolid3D, SeenFromAboveOutlinesUnlitQuadsAndFromBelowNothing) {
-    GridSolid3D grid;
-    grid.initialize(10.0f, -1.0f, 20, 10.0f, -1.0f, 20);
-    grid.getSolid()->faces[5]->setSelected(true);
+    // A viewport redraw from below, then from straight above.
+    solid.faces[5]->setSelected(true);
     auto light = std::make_shared<LightSource>();
     light->initialize(0, 5, 0, 255, 255, 255);
-    const LightList lights{light};
     RecordingCanvas canvas(400, 300);
     ViewSpecs view;
     view.zoom = 10.0f; // the whole grid on the canvas
-    view.EyePhi = -1.2f;
-    renderGrid(grid, canvas, view, lights);
-    EXPECT_TRUE(canvas.polygons().empty());
-
-    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewTop, view);
-    renderGrid(grid, canvas, view, lights);
+    for (float phi : {-1.2f, 1.5707964f}) {
+        view.EyePhi = phi;
+        float ex, ey, ez;
+        KorvanOpsConsts::getEyePosition(view, ex, ey, ez);
+        grid.resetTransformedPoints();
+        grid.cull(ex, ey, ez);
+        EXPECT_FALSE(grid.ApplyFull(KorvanOpsConsts::getFullViewMatrix(canvas, view)));
+        grid.clipEye(view.EyeR);
+        grid.draw(canvas, {light}, 50, ex, ey, ez, false, true, 100, 100, 100);
+        EXPECT_EQ(canvas.polygons().size(), phi > 0 ? 361u : 0u);
+    }
     const auto polygons = canvas.polygons();
-    ASSERT_EQ(polygons.size(), 361u);
     for (size_t i = 0; i < polygons.size(); ++i) {
-        EXPECT_EQ(polygons[i].fillStyle, FillTransparent);
-        EXPECT_EQ(polygons[i].drawStyle, DrawSolid);
+        EXPECT_TRUE(polygons[i].fillStyle == FillTransparent && polygons[i].drawStyle == DrawSolid);
         EXPECT_EQ(polygons[i].foreColor, i == 5 ? 100 * 256 : 100 + 100 * 256 + 100 * 65536);
     }
-    // List order: the first quad starts at point 1, (10, 0, 10); the top view shows +z to
-    // the right and +x up.
-    EXPECT_EQ(polygons.front().points[0].x, 300);
-    EXPECT_EQ(polygons.front().points[0].y, 50);
+    // Face order; seen from above +z is to the right and +x up.
+    EXPECT_EQ(std::pair(polygons[0].points[0].x, polygons[0].points[0].y), std::pair(300, 50));
 }
 
-TEST(AxesXYZ, BottomLeftGlyphSitsInTheCornerWhateverTheView) {
+TEST(AxesXYZ, CornerGlyphIgnoresTheViewAndZeroGlyphSitsOnTheOrigin) {
     RecordingCanvas canvas(480, 360);
     canvas.setDrawStyle(3);
     canvas.setForeColor(255);
     AxesXYZ axes;
-    const float angles[][2] = {{0.0f, 0.0f}, {0.6f, 0.15f}, {-2.0f, 1.3f}, {1.5707964f, 0.0f}};
-    for (int projection = 0; projection <= 1; ++projection) {
-        for (const auto& angle : angles) {
-            canvas.forget();
-            axes.draw(canvas, 10.0f, angle[0], angle[1], projection, true, 0, 0);
-            const auto& calls = canvas.calls();
-            ASSERT_EQ(calls.size(), 9u);
-            const char* labels[] = {"X", "Y", "Z"};
-            for (size_t tip = 0; tip < 3; ++tip) {
-                expectPoint(calls[3 * tip], Kind::MoveTo, 40, 330);
-                EXPECT_EQ(calls[3 * tip + 1].kind, Kind::LineTo);
-                EXPECT_EQ(calls[3 * tip + 2].kind, Kind::Text);
-                EXPECT_EQ(calls[3 * tip + 2].text, labels[tip]);
-                EXPECT_EQ(calls[3 * tip + 2].points[0].x, calls[3 * tip + 1].points[0].x);
-                EXPECT_EQ(calls[3 * tip + 2].points[0].y, calls[3 * tip + 1].points[0].y);
-                for (size_t k = 0; k < 3; ++k) {
-                    EXPECT_EQ(calls[3 * tip + k].foreColor, white);
-                    EXPECT_EQ(calls[3 * tip + k].drawStyle, DrawSolid);
-                }
-            }
-            EXPECT_EQ(canvas.drawStyle(), 3);
-            EXPECT_EQ(canvas.foreColor(), 255);
+    // Parallel, then perspective views (theta, phi).
+    const float views[][3] = {{0, 0, 0}, {0, 0.6f, 0.15f}, {0, -2.0f, 1.3f}, {0, 1.5707964f, 0},
+                              {1, 0, 0}, {1, 0.6f, 0.15f}, {1, -2.0f, 1.3f}, {1, 1.5707964f, 0}};
+    for (const auto& v : views) {
+        canvas.forget();
+        axes.draw(canvas, 10.0f, v[1], v[2], static_cast<int>(v[0]), true, 0, 0);
+        const auto& c = canvas.calls();
+        ASSERT_EQ(c.size(), 9u);
+        for (size_t i = 0; i < 9; i += 3) {
+            expectCall(c[i], Kind::MoveTo, {{40, 330}});
+            EXPECT_EQ(c[i + 1].kind, Kind::LineTo);
+            expectCall(c[i + 2], Kind::Text, {{c[i + 1].points[0].x, c[i + 1].points[0].y}});
+            EXPECT_EQ(c[i + 2].text, std::string(1, static_cast<char>('X' + i / 3)));
         }
+        for (const auto& call : c) {
+            EXPECT_TRUE(call.foreColor == 16777215 && call.drawStyle == DrawSolid);
+        }
+        EXPECT_TRUE(canvas.drawStyle() == 3 && canvas.foreColor() == 255);
     }
     // The last view was the front view in perspective: x to the right, y up, z at the eye.
-    const auto& calls = canvas.calls();
-    expectPoint(calls[1], Kind::LineTo, 80, 330);
-    expectPoint(calls[4], Kind::LineTo, 40, 300);
-    expectPoint(calls[7], Kind::LineTo, 40, 330);
-    const Point4 origin = axes.getSolid().getPointRecord(1).trans;
-    EXPECT_FLOAT_EQ(origin.x, 40.0f);
-    EXPECT_FLOAT_EQ(origin.y, 330.0f);
-}
+    expectCall(canvas.calls()[1], Kind::LineTo, {{80, 330}});
+    expectCall(canvas.calls()[4], Kind::LineTo, {{40, 300}});
+    expectCall(canvas.calls()[7], Kind::LineTo, {{40, 330}});
 
-TEST(AxesXYZ, ZeroAxesGlyphSitsAtTheTargetsCanvasPosition) {
-    RecordingCanvas canvas(480, 360);
-    ViewSpecs view;
-    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
-    view.shiftx = 40;
-    view.shifty = -20;
-    Point4 target;
-    M3Ops::transformPoint(Point4{0, 0, 0, 1}, KorvanOpsConsts::getFullViewMatrix(canvas, view),
-                          target);
-    AxesXYZ axes;
-    axes.draw(canvas, view.EyeR, view.EyeTheta, view.EyePhi, view.ProjectionType, false,
-              view.shiftx, view.shifty);
-    expectPoint(canvas.calls()[0], Kind::MoveTo, 260, 170);
-    EXPECT_EQ(target.x, 260.0f);
-    EXPECT_EQ(target.y, 170.0f);
+    // The zero-axes glyph starts on the target, at the centre moved by half the shift.
+    canvas.forget();
+    axes.draw(canvas, 10.0f, 0.6283185f, 0.15707963f, 1, false, 40, -20);
+    expectCall(canvas.calls()[0], Kind::MoveTo, {{260, 170}});
 }
 
 TEST(Vector3DDrawer, DrawsALineAndStartSquareOnlyInFrontOfTheEye) {
@@ -152,37 +105,25 @@ TEST(Vector3DDrawer, DrawsALineAndStartSquareOnlyInFrontOfTheEye) {
     canvas.setDrawStyle(DrawInvisible);
     canvas.setForeColor(7);
     canvas.setFillStyle(FillSolid);
-    ViewSpecs specs;
-    specs.ProjectionType = 0;
-    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewFront, specs);
+    const ViewSpecs specs{.EyeTheta = 1.5707964f, .ProjectionType = 0}; // front, parallel
     viewInfo view;
     view.setSpecs(specs);
-    const Vector3DDrawer drawer;
-
     Vector3D behind;
     behind.initializeXYZ(0, 0, 12); // the end lies beyond the eye at depth 10
-    drawer.draw(canvas, &behind, view, 100, 80, 0, 255, 2);
-    drawer.draw(canvas, nullptr, view, 100, 80, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, &behind, view, 100, 80, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, nullptr, view, 100, 80, 0, 255, 2);
     EXPECT_TRUE(canvas.calls().empty());
 
     Vector3D v;
     v.initializeXYZ(30, 20, 0);
-    drawer.draw(canvas, &v, view, 100, 80, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, &v, view, 100, 80, 0, 255, 2);
     const auto& calls = canvas.calls();
     ASSERT_EQ(calls.size(), 3u);
-    expectPoint(calls[0], Kind::MoveTo, 100, 80);
-    expectPoint(calls[1], Kind::LineTo, 130, 100);
-    EXPECT_EQ(calls[1].foreColor, 255);
-    EXPECT_EQ(calls[1].drawStyle, 2);
-    EXPECT_EQ(calls[2].kind, Kind::Polygon);
+    expectCall(calls[0], Kind::MoveTo, {{100, 80}});
+    expectCall(calls[1], Kind::LineTo, {{130, 100}});
+    EXPECT_TRUE(calls[1].foreColor == 255 && calls[1].drawStyle == 2);
+    expectCall(calls[2], Kind::Polygon, {{95, 75}, {105, 75}, {105, 85}, {95, 85}});
     EXPECT_EQ(calls[2].fillStyle, FillTransparent);
-    const std::vector<std::pair<int, int>> square{{95, 75}, {105, 75}, {105, 85}, {95, 85}};
-    ASSERT_EQ(calls[2].points.size(), 4u);
-    for (size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(calls[2].points[i].x, square[i].first);
-        EXPECT_EQ(calls[2].points[i].y, square[i].second);
-    }
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 7);
-    EXPECT_EQ(canvas.fillStyle(), FillSolid);
+    EXPECT_TRUE(canvas.drawStyle() == DrawInvisible && canvas.foreColor() == 7 &&
+                canvas.fillStyle() == FillSolid);
 }

@@ -8,9 +8,12 @@
 
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <tuple>
 #include <utility>
 
 namespace {
+
+using Kind = RecordingCanvas::Kind;
 
 int32_t guess(std::initializer_list<std::pair<float, float>> clicks) {
     Orientation2D orientation;
@@ -20,126 +23,87 @@ int32_t guess(std::initializer_list<std::pair<float, float>> clicks) {
     return orientation.getOrientation();
 }
 
-std::shared_ptr<CPoint3D> pointAt(float x, float y) {
-    auto point = std::make_shared<CPoint3D>();
-    point->setRecord(PointRecord{Point4{x, y, 0, 1}, {}, {}});
-    return point;
+PointRecord recordAt(float x, float y) {
+    return {Point4{x, y, 0, 1}, {}, {}};
 }
 
 } // namespace
 
 TEST(Orientation2D, SumsSegmentDirectionsWithCanvasYDown) {
-    EXPECT_EQ(guess({{100, 100}, {200, 100}, {200, 200}}), 2);
-    EXPECT_EQ(guess({{100, 100}, {100, 200}, {200, 200}}), 2);
-    EXPECT_EQ(guess({{0, 0}, {50, 50}, {100, 0}}), -1);
-    EXPECT_EQ(guess({{100, 100}}), -1);
+    EXPECT_EQ(guess({{100, 100}, {200, 100}, {200, 200}}), Orientation2D::CounterClockWise);
+    EXPECT_EQ(guess({{100, 100}, {100, 200}, {200, 200}}), Orientation2D::CounterClockWise);
+    EXPECT_EQ(guess({{0, 0}, {50, 50}, {100, 0}}), Orientation2D::Unknown);
+    EXPECT_EQ(guess({{100, 100}}), Orientation2D::Unknown);
     // Too steep for the arctangent: counted as straight up.
-    EXPECT_EQ(guess({{100, 100}, {100.005f, 100}}), 1);
-
-    Orientation2D upwards;
-    upwards.addAngle(100, 200);
-    upwards.addAngle(100, 100);
-    EXPECT_TRUE(upwards.isClockWise());
-    EXPECT_FALSE(upwards.isUnknown());
+    EXPECT_EQ(guess({{100, 100}, {100.005f, 100}}), Orientation2D::ClockWise);
 }
 
 TEST(Profile, PointsAreSharedAndOnlyReportedOnceThereIsASegment) {
     Profile profile;
-    const auto a = pointAt(1, 2);
-    profile.addCPoint(a);
+    profile.addPointRecord(recordAt(1, 2));
     EXPECT_EQ(profile.getCPoint(1), nullptr);
     EXPECT_EQ(profile.getPointRecord(1), PointRecord{});
-
-    const auto b = pointAt(3, 4);
-    const auto c = pointAt(5, 6);
-    profile.addCPoint(b);
-    profile.addCPoint(c);
+    profile.addPointRecord(recordAt(3, 4));
+    profile.addPointRecord(recordAt(5, 6));
+    const auto a = profile.getCPoint(1), b = profile.getCPoint(2), c = profile.getCPoint(3);
     profile.addCPoint(a);
-    EXPECT_EQ(profile.getCPoint(1), a);
     EXPECT_EQ(profile.getCPoint(0), nullptr);
     EXPECT_EQ(profile.getCPoint(5), nullptr);
     EXPECT_EQ(profile.getPointRecord(2).coord, (Point4{3, 4, 0, 1}));
 
     profile.changeOrientation();
     EXPECT_EQ(profile.getPoints(), (CPointList{a, c, b, a}));
-
     profile.setSelected(true);
     profile.setVisible(false);
     const auto copy = profile.clone();
     EXPECT_EQ(copy->getPoints(), profile.getPoints());
-    EXPECT_TRUE(copy->isSelected());
-    EXPECT_FALSE(copy->isVisible());
-
-    // A record appended is copied into a point of its own.
-    PointRecord record{Point4{7, 8, 9, 1}, {}, {}};
-    copy->addPointRecord(record);
-    record.coord.x = 0;
-    EXPECT_EQ(copy->getPointRecord(5).coord, (Point4{7, 8, 9, 1}));
+    EXPECT_TRUE(copy->isSelected() && !copy->isVisible());
+    copy->addPointRecord(recordAt(7, 8)); // a point of the clone alone
+    EXPECT_EQ(copy->getPointRecord(5).coord, (Point4{7, 8, 0, 1}));
     EXPECT_EQ(profile.getPointCount(), 4);
 }
 
-TEST(Profile, DrawsTheProjectedPolylineInTheSelectionColour) {
+TEST(Profile, ProjectsDrawsInTheSelectionColourAndHitTestsTheClosedPolyline) {
     Profile profile;
-    for (const auto& [x, y] : {std::pair{1.0f, 1.0f}, {2.0f, 1.0f}, {2.0f, 2.0f}}) {
-        profile.addCPoint(pointAt(x, y));
+    for (const auto& [x, y] : {std::pair{1.0f, 1.0f}, {2.0f, 1.0f}, {2.0f, 2.0f}, {1.0f, 2.0f}}) {
+        profile.addPointRecord(recordAt(x, y));
     }
     profile.addCPoint(profile.getCPoint(1));
     profile.ApplyFull(canvasLayout(10.25f, 0, 0));
+    const auto region = profile.createRegion(canvasLayout(10.25f, 0, 0));
+    EXPECT_TRUE(region->inRegion(15, 15));
+    EXPECT_FALSE(region->inRegion(5, 5));
 
     RecordingCanvas canvas;
     canvas.setFillStyle(FillDiagonalCross);
     canvas.setDrawStyle(DrawInvisible);
     canvas.setForeColor(1);
     canvas.setFillColor(2);
-    profile.setSelected(true);
-    profile.draw(canvas, 0, 100, 255);
-
-    const auto& calls = canvas.calls();
-    ASSERT_EQ(calls.size(), 4u);
-    EXPECT_EQ(calls[0].kind, RecordingCanvas::Kind::MoveTo);
     // 10.25 and 20.5 round to even.
-    const int expected[4][2] = {{10, 10}, {20, 10}, {20, 20}, {10, 10}};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(calls[i].points[0].x, expected[i][0]);
-        EXPECT_EQ(calls[i].points[0].y, expected[i][1]);
-        EXPECT_EQ(calls[i].foreColor, 255 + 256 * 100 + 65536 * 255);
-        EXPECT_EQ(calls[i].fillStyle, FillTransparent);
-        EXPECT_EQ(calls[i].drawStyle, DrawSolid);
+    const std::vector<std::pair<int, int>> corners{
+        {10, 10}, {20, 10}, {20, 20}, {10, 20}, {10, 10}};
+    // Selected, the red goes to full; hidden, nothing is drawn.
+    const std::tuple<bool, bool, int32_t> cases[] = {{true, true, 255 + 256 * 100 + 65536 * 255},
+                                                     {false, true, 256 * 100 + 65536 * 255},
+                                                     {false, false, 0}};
+    for (const auto& [selected, visible, colour] : cases) {
+        canvas.forget();
+        profile.setSelected(selected);
+        profile.setVisible(visible);
+        profile.draw(canvas, 0, 100, 255);
+        const auto& calls = canvas.calls();
+        ASSERT_EQ(calls.size(), visible ? 5u : 0u);
+        for (size_t i = 0; i < calls.size(); ++i) {
+            EXPECT_EQ(calls[i].kind, i == 0 ? Kind::MoveTo : Kind::LineTo);
+            EXPECT_EQ(std::pair(calls[i].points[0].x, calls[i].points[0].y), corners[i]);
+            EXPECT_TRUE(calls[i].foreColor == colour && calls[i].fillStyle == FillTransparent &&
+                        calls[i].drawStyle == DrawSolid);
+        }
+        EXPECT_TRUE(canvas.fillStyle() == FillDiagonalCross &&
+                    canvas.drawStyle() == DrawInvisible && canvas.foreColor() == 1 &&
+                    canvas.fillColor() == 2);
     }
-    EXPECT_EQ(canvas.fillStyle(), FillDiagonalCross);
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 1);
-    EXPECT_EQ(canvas.fillColor(), 2);
-
-    canvas.forget();
-    profile.setSelected(false);
-    profile.draw(canvas, 0, 100, 255);
-    EXPECT_EQ(canvas.calls()[0].foreColor, 256 * 100 + 65536 * 255);
-
-    canvas.forget();
-    profile.setVisible(false);
-    profile.draw(canvas, 0, 100, 255);
-    EXPECT_TRUE(canvas.calls().empty());
-}
-
-TEST(Profile, ProjectsIntoTransAndHitTestsTheProjectedPolygon) {
-    Profile profile;
-    for (const auto& [x, y] : {std::pair{1.0f, 1.0f}, {5.0f, 1.0f}, {5.0f, 5.0f}, {1.0f, 5.0f}}) {
-        profile.addCPoint(pointAt(x, y));
-    }
-    const Matrix4 M = canvasLayout(10, 0, 0);
-    profile.ApplyFull(M);
-    const PointRecord third = profile.getPointRecord(3);
-    EXPECT_EQ(third.coord, (Point4{5, 5, 0, 1}));
-    EXPECT_EQ(third.trans, (Point4{50, 50, 0, 1}));
-    EXPECT_EQ(third.coord2, Point4{});
-
-    const auto region = profile.createRegion(M);
-    EXPECT_TRUE(region->inRegion(30, 30));
-    EXPECT_FALSE(region->inRegion(5, 5));
-
-    // Hidden profiles keep their last projection.
-    profile.setVisible(false);
+    // A hidden profile keeps its last projection.
     profile.ApplyFull(canvasLayout(1, 0, 0));
-    EXPECT_EQ(profile.getPointRecord(3).trans, (Point4{50, 50, 0, 1}));
+    EXPECT_EQ(profile.getPointRecord(3).trans, (Point4{20.5f, 20.5f, 0, 1}));
 }

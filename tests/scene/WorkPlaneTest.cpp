@@ -9,10 +9,9 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 
 namespace {
-
-constexpr double pi = 3.14159265358979;
 
 Point4 corner(const WorkPlane& plane, int32_t index) {
     return plane.getSolid()->getPointRecord(index).coord;
@@ -21,37 +20,36 @@ Point4 corner(const WorkPlane& plane, int32_t index) {
 } // namespace
 
 TEST(WorkPlane, InitializeLaysOutTheCornersAndKeepsTheCentreAtTheOrigin) {
-    WorkPlane flat;
-    flat.initialize(10, 0, 0, 2, 0);
-    const float expected[5][3] = {{-5, -5, 2}, {-5, 5, 2}, {5, 5, 2}, {5, -5, 2}, {0, 0, 0}};
+    WorkPlane plane;
+    plane.initialize(10, 0, 0, 2, 0);
+    const Point4 expected[] = {
+        {-5, -5, 2, 1}, {-5, 5, 2, 1}, {5, 5, 2, 1}, {5, -5, 2, 1}, {0, 0, 0, 1}};
     for (int32_t i = 1; i <= 5; ++i) {
-        EXPECT_EQ(corner(flat, i),
-                  (Point4{expected[i - 1][0], expected[i - 1][1], expected[i - 1][2], 1}))
-            << "point " << i;
+        EXPECT_EQ(corner(plane, i), expected[i - 1]) << "point " << i;
     }
-    ASSERT_EQ(flat.getSolid()->GetFaceNum(), 1);
-    EXPECT_EQ(flat.getSolid()->faces[0]->getIndices(), (std::vector<int32_t>{1, 2, 3, 4}));
-    EXPECT_EQ(flat.getCenterCoord()->getRecord().coord, (Point4{0, 0, 0, 1}));
+    ASSERT_EQ(plane.getSolid()->GetFaceNum(), 1);
+    EXPECT_EQ(plane.getSolid()->faces[0]->getIndices(), (std::vector<int32_t>{1, 2, 3, 4}));
+    EXPECT_EQ(plane.getCenterCoord()->getRecord().coord, (Point4{0, 0, 0, 1}));
 
-    // A quarter turn about y has an exact zero cosine.
-    WorkPlane aboutY;
-    aboutY.initialize(10, 0, static_cast<float>(pi / 2), 0, 0);
-    EXPECT_EQ(corner(aboutY, 1), (Point4{0, -5, 5, 1}));
-
-    // About x the rounded cosine leaves a trace in y.
-    WorkPlane aboutX;
-    aboutX.initialize(10, static_cast<float>(pi / 2), 0, 0, 0);
-    const Point4 p1 = corner(aboutX, 1);
-    EXPECT_NE(p1.y, 0.0f);
-    EXPECT_LT(std::fabs(p1.y), 1e-6f);
-    EXPECT_FLOAT_EQ(p1.z, -5.0f);
+    // A quarter turn about y has an exact zero cosine; about x the rounded one leaves a trace.
+    const float quarter = std::numbers::pi_v<float> / 2;
+    plane.initialize(10, 0, quarter, 0, 0);
+    EXPECT_EQ(corner(plane, 1), (Point4{0, -5, 5, 1}));
+    plane.initialize(10, quarter, 0, 0, 0);
+    EXPECT_TRUE(corner(plane, 1).y != 0 && std::fabs(corner(plane, 1).y) < 1e-6f);
+    EXPECT_FLOAT_EQ(corner(plane, 1).z, -5.0f);
 }
 
-TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareAndRestoresTheCanvas) {
+TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway) {
+    ScriptedPrompts prompts;
     WorkPlane plane;
     plane.initialize(10, 0, 0, 2, 200 + 256 * 120 + 65536 * 10);
     plane.setSelected(true);
     plane.ApplyFull(canvasLayout(10, 100, 100));
+    const auto region = plane.createRegion();
+    ASSERT_NE(region, nullptr);
+    EXPECT_TRUE(region->inRegion(100, 100));
+    EXPECT_FALSE(region->inRegion(40, 100));
 
     RecordingCanvas canvas;
     canvas.setFillStyle(FillTransparent);
@@ -59,66 +57,42 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareAndRestoresTheCanvas) {
     canvas.setForeColor(1);
     canvas.setFillColor(2);
     plane.draw(canvas, FillDiagonalCross, 0, 150, 0);
-
-    const int32_t tinted = 200 + 256 * 255 + 65536 * 10;
+    const int32_t tinted = 200 + 256 * 255 + 65536 * 10; // green clamped
     const auto& calls = canvas.calls();
     ASSERT_EQ(calls.size(), 6u);
     const int expected[5][2] = {{50, 50}, {50, 150}, {150, 150}, {150, 50}, {50, 50}};
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(calls[i].kind,
                   i == 0 ? RecordingCanvas::Kind::MoveTo : RecordingCanvas::Kind::LineTo);
-        EXPECT_EQ(calls[i].points[0].x, expected[i][0]);
-        EXPECT_EQ(calls[i].points[0].y, expected[i][1]);
-        EXPECT_EQ(calls[i].foreColor, tinted);
-        EXPECT_EQ(calls[i].drawStyle, DrawSolid);
+        EXPECT_TRUE(calls[i].points[0].x == expected[i][0] &&
+                    calls[i].points[0].y == expected[i][1]);
+        EXPECT_TRUE(calls[i].foreColor == tinted && calls[i].drawStyle == DrawSolid);
     }
-    const auto& polygon = calls[5];
-    EXPECT_EQ(polygon.kind, RecordingCanvas::Kind::Polygon);
-    EXPECT_EQ(polygon.points.size(), 4u);
-    EXPECT_EQ(polygon.fillStyle, FillDiagonalCross);
-    EXPECT_EQ(polygon.foreColor, tinted);
-    EXPECT_EQ(polygon.fillColor, tinted);
-
-    EXPECT_EQ(canvas.fillStyle(), FillTransparent);
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 1);
-    EXPECT_EQ(canvas.fillColor(), 2);
+    EXPECT_TRUE(calls[5].kind == RecordingCanvas::Kind::Polygon && calls[5].points.size() == 4 &&
+                calls[5].fillStyle == FillDiagonalCross && calls[5].foreColor == tinted &&
+                calls[5].fillColor == tinted);
+    EXPECT_TRUE(canvas.fillStyle() == FillTransparent && canvas.drawStyle() == DrawInvisible &&
+                canvas.foreColor() == 1 && canvas.fillColor() == 2);
     EXPECT_FALSE(plane.getSolid()->hasTransformedPoint(1));
-}
 
-TEST(WorkPlane, HiddenPlaneIsNeitherTransformedDrawnNorPickedAndSaysNothing) {
-    ScriptedPrompts prompts;
-    WorkPlane plane;
-    plane.initialize(10, 0, 0, 2, 255);
+    // Hidden, it is neither transformed, drawn nor picked, and says nothing.
+    canvas.forget();
     plane.hide();
-    plane.ApplyFull(canvasLayout(10, 100, 100));
-    EXPECT_EQ(plane.getSolid()->getPointRecord(1).trans, Point4{});
-
-    RecordingCanvas canvas;
+    plane.ApplyFull(canvasLayout(1, 0, 0));
+    EXPECT_EQ(plane.getSolid()->getPointRecord(1).trans, (Point4{50, 50, 2, 1}));
     plane.draw(canvas, FillDiagonalCross, 0, 150, 0);
     EXPECT_TRUE(canvas.calls().empty());
     EXPECT_EQ(plane.createRegion(), nullptr);
     EXPECT_TRUE(prompts.messages().empty());
-}
-
-TEST(WorkPlane, RegionCoversTheSquareUnlessTheFaceIsClipped) {
-    ScriptedPrompts prompts;
-    WorkPlane plane;
-    plane.initialize(10, 0, 0, 2, 255);
-    plane.ApplyFull(canvasLayout(10, 100, 100));
-    const auto region = plane.createRegion();
-    ASSERT_NE(region, nullptr);
-    EXPECT_TRUE(region->inRegion(100, 100));
-    EXPECT_FALSE(region->inRegion(40, 100));
-    EXPECT_TRUE(prompts.messages().empty());
 
     // The plane lies at depth 2, so an eye at 1 clips it away.
+    plane.show();
     plane.clipEye(1);
     EXPECT_EQ(plane.createRegion(), nullptr);
     ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].text,
+    const auto& message = prompts.messages()[0];
+    EXPECT_EQ(message.text,
               "Error in region Algorithm for workPlane.  See createRegion in class WorkPlane");
-    EXPECT_EQ(prompts.messages()[0].title, "");
-    EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(prompts.messages()[0].buttons, MessageButtons::Ok);
+    EXPECT_TRUE(message.title.empty() && message.icon == MessageIcon::Critical &&
+                message.buttons == MessageButtons::Ok);
 }
