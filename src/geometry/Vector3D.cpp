@@ -19,52 +19,40 @@ void Vector3D::getXYZ(float& x, float& y, float& z) const {
     sphericalToCartesian(x, y, z);
 }
 
+std::array<float, 3> Vector3D::cartesian() const {
+    std::array<float, 3> c{};
+    sphericalToCartesian(c[0], c[1], c[2]);
+    return c;
+}
+
 float Vector3D::getX() const {
-    float x;
-    float y;
-    float z;
-    sphericalToCartesian(x, y, z);
-    return x;
+    return cartesian()[0];
 }
 
 float Vector3D::getY() const {
-    float x;
-    float y;
-    float z;
-    sphericalToCartesian(x, y, z);
-    return y;
+    return cartesian()[1];
 }
 
 float Vector3D::getZ() const {
-    float x;
-    float y;
-    float z;
-    sphericalToCartesian(x, y, z);
-    return z;
+    return cartesian()[2];
+}
+
+void Vector3D::setCartesian(int axis, float value) {
+    std::array<float, 3> c = cartesian();
+    c[static_cast<size_t>(axis)] = value;
+    cartesianToSpherical(c[0], c[1], c[2]);
 }
 
 void Vector3D::setX(float x) {
-    float oldX;
-    float y;
-    float z;
-    sphericalToCartesian(oldX, y, z);
-    cartesianToSpherical(x, y, z);
+    setCartesian(0, x);
 }
 
 void Vector3D::setY(float y) {
-    float x;
-    float oldY;
-    float z;
-    sphericalToCartesian(x, oldY, z);
-    cartesianToSpherical(x, y, z);
+    setCartesian(1, y);
 }
 
 void Vector3D::setZ(float z) {
-    float x;
-    float y;
-    float oldZ;
-    sphericalToCartesian(x, y, oldZ);
-    cartesianToSpherical(x, y, z);
+    setCartesian(2, z);
 }
 
 void Vector3D::initializeAmpThetaPhi(float newAmplitude, float newTheta, float newPhi) {

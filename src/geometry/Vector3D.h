@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 // A direction or displacement in space. Only the spherical form is stored; the Cartesian
@@ -36,6 +37,9 @@ public:
 
 private:
     void sphericalToCartesian(float& x, float& y, float& z) const;
+    // The Cartesian form as (x, y, z); one component replaced, the others kept.
+    std::array<float, 3> cartesian() const;
+    void setCartesian(int axis, float value);
     // Vectors along the y axis (the zero vector among them) have no defined angles: they
     // are reported in a message box, keep the new amplitude and their old angles.
     void cartesianToSpherical(float x, float y, float z);
