@@ -84,39 +84,10 @@ TEST(M3Ops, AffineProductIgnoresColumnFour) {
     EXPECT_EQ(F, C);
 }
 
-TEST(M3Ops, ViewMatrixFromEyeOnPlusX) {
-    Matrix4 V;
-    M3Ops::buildViewMatrixSpherical(V, 0, 10, 0, 0, 0, 0, 0, 0, 1, 0);
-    const Point4 x = apply(V, 1, 0, 0);
-    const Point4 minusZ = apply(V, 0, 0, -1);
-    const Point4 y = apply(V, 0, 1, 0);
-    EXPECT_NEAR(x.z, 1, 1e-6);
-    EXPECT_NEAR(minusZ.x, 1, 1e-6);
-    EXPECT_NEAR(y.y, 1, 1e-6);
-    EXPECT_NEAR(x.x, 0, 1e-6);
-}
-
 TEST(M3Ops, ViewMatrixWithEyeOnTargetIsTheTranslationAlone) {
     Matrix4 V;
     M3Ops::buildViewMatrix(V, 1, 2, 3, 4, 2, 3, 4, 0, 1, 0);
     Matrix4 T;
     M3Ops::setTranslation(T, -2, -3, -4);
     EXPECT_EQ(V, T);
-}
-
-TEST(M3Ops, SphericalToCartesianPutsYUp) {
-    float x;
-    float y;
-    float z;
-    M3Ops::sphericalToCartesian(2, static_cast<float>(3.14159265358979 / 2), 0, x, y, z);
-    EXPECT_NEAR(x, 0, 1e-6);
-    EXPECT_NEAR(z, 2, 1e-6);
-    M3Ops::sphericalToCartesian(2, 0, static_cast<float>(3.14159265358979 / 2), x, y, z);
-    EXPECT_NEAR(y, 2, 1e-6);
-    float cx;
-    float cy;
-    float cz;
-    M3Ops::crossProduct(cx, cy, cz, 1, 0, 0, 0, 1, 0);
-    EXPECT_EQ(cz, 1.0f);
-    EXPECT_EQ(cx, 0.0f);
 }
