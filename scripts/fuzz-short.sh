@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# A short run of the mesh file fuzzer for the test suite: builds the "fuzz" preset (clang)
-# in build/fuzz and fuzzes for 20 seconds from the seed files in fuzz/corpus. Exits 77
-# (skipped) when clang or its fuzzer runtime is missing; scripts/install-deps.sh adds them.
+# A short run of the mesh file fuzzer, one of CI's steps: builds the "fuzz" preset (clang)
+# in build/fuzz and fuzzes for 20 seconds from the seed files in fuzz/corpus. Needs clang
+# and its fuzzer runtime, which scripts/install-deps.sh installs.
 # Findings are written to build/fuzz/ as crash-*, leak-*, timeout-* files.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 if ! command -v clang++ >/dev/null ||
     ! clang++ -print-file-name="libclang_rt.fuzzer-$(uname -m).a" | grep -q /; then
     echo "clang++ with libFuzzer not found: run scripts/install-deps.sh" >&2
-    exit 77
+    exit 1
 fi
 
 cmake --preset fuzz >/dev/null

@@ -123,7 +123,9 @@ void QtCanvas::clear() {
     image_.fill(toQColor(backColor()));
 }
 
-void QtCanvas::move(int, int, int width, int height) { resize(width, height); }
+void QtCanvas::move(int, int, int width, int height) {
+    resize(width, height);
+}
 
 void QtCanvas::refresh() {}
 

@@ -1,0 +1,2 @@
+// Must not build: geometry sits below the scene layer.
+#include "scene/Face3d.h"

@@ -1,0 +1,2 @@
+// Must not build: the render basics sit below the scene and the render pipeline.
+#include "render/ViewportRenderer.h"
