@@ -1,10 +1,14 @@
 #include "qt/frmMouseSensivityView.h"
 
+#include "qt/QtModalHost.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTimer>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace {
 
@@ -43,5 +47,32 @@ TEST(frmMouseSensivityView, TheBarMovesTheWayItIsDrawn) {
     key(bar, Qt::Key_Home); // the left end: "Dull"
     EXPECT_EQ(form.HScroll1.Value, 1000);
     key(bar, Qt::Key_End);
+    EXPECT_EQ(form.HScroll1.Value, 1);
+}
+
+TEST(QtModalHost, RunsTheDialogsViewUntilTheDialogCloses) {
+    QtModalHost host;
+    frmMouseSensivity form;
+    EXPECT_THROW(host.showModal(form), std::logic_error); // no view registered yet
+
+    host.registerView<frmMouseSensivity, frmMouseSensivityView>();
+    QTimer::singleShot(0, [] {
+        auto* view = qobject_cast<frmMouseSensivityView*>(QApplication::activeModalWidget());
+        if (view == nullptr) {
+            return;
+        }
+        view->scrollBar().triggerAction(QAbstractSlider::SliderToMaximum); // "Nervous"
+        for (QAction* action : view->findChildren<QAction*>()) {
+            if (action->text() == "&Accept") {
+                action->trigger();
+            }
+        }
+        // Should Accept not have closed it, end the test rather than wait for ever.
+        if (QWidget* open = QApplication::activeModalWidget()) {
+            open->close();
+        }
+    });
+    host.showModal(form);
+    EXPECT_TRUE(form.isClosed());
     EXPECT_EQ(form.HScroll1.Value, 1);
 }
