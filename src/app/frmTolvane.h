@@ -73,8 +73,6 @@ public:
     int32_t getPopupViewport() const { return popupViewport; }
     const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
-    const SelectionState& getSelection() const { return selection; }
-    SceneTreeModel& getTreeView() { return TreeView1; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
 private:

@@ -4,7 +4,6 @@
 #include "qt/CanvasWidget.h"
 
 #include <QMenuBar>
-
 #include <QResizeEvent>
 #include <QStandardItemModel>
 #include <QTreeView>
