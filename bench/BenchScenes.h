@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/SceneDocument.h"
 #include "geometry/M3Ops.h"
-#include "render/SceneDocument.h"
 #include "scene/Transformed3d.h"
 
 #include <cmath>

@@ -1,6 +1,7 @@
 #include "BenchScenes.h"
 #include "app/frmTolvane.h"
 #include "qt/QtCanvas.h"
+#include "qt/QtModalHost.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,7 +12,8 @@ namespace {
 void redrawAll(benchmark::State& state, bool prisms) {
     std::array<QtCanvas, 4> canvases{QtCanvas(1, 1), QtCanvas(1, 1), QtCanvas(1, 1),
                                      QtCanvas(1, 1)};
-    frmTolvane form;
+    QtModalHost dialogs;
+    frmTolvane form(dialogs);
     form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
     if (prisms) {
         form.getDocument().solids = BenchScenes::twentyPrisms().solids;

@@ -1,5 +1,6 @@
 #include "BenchCanvas.h"
 #include "BenchScenes.h"
+#include "app/SceneDocument.h"
 #include "qt/QtCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
@@ -23,7 +24,7 @@ template <class CanvasType> void redraw(benchmark::State& state, SceneDocument d
     ViewportRenderer renderer;
     const ViewSpecs view = isometric();
     for (auto _ : state) {
-        renderer.redrawViewport(canvas, view, document);
+        renderer.redrawViewport(canvas, view, document.scene());
         benchmark::ClobberMemory();
     }
 }

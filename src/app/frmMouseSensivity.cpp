@@ -1,11 +1,17 @@
 #include "app/frmMouseSensivity.h"
 
-#include "app/frmTolvane.h"
+#include "app/MouseSensivityTarget.h"
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "platform/Prompts.h"
 
 frmMouseSensivity::frmMouseSensivity() {
+    addControl("HScroll1", HScroll1, [this] { HScroll1_Change(); });
+    addControl("lblSens", lblSens);
+    addControl("lblDull", lblDull);
+    addControl("lblNervous", lblNervous);
+    addControl("mnuAccept", mnuAccept, [this] { mnuAccept_Click(); });
+    addControl("mnuCancel", mnuCancel, [this] { mnuCancel_Click(); });
     Form_Load();
 }
 
@@ -17,12 +23,10 @@ void frmMouseSensivity::Form_Load() {
 }
 
 void frmMouseSensivity::setSensivityDisplayValue(float Sensivity) {
-    const int value = HScroll1.clamped(Rounding::toInt32(1.0f / Sensivity));
-    // Like the control, the label follows only when the value really changes.
-    if (value != HScroll1.Value) {
-        HScroll1.Value = value;
-        HScroll1_Change();
-    }
+    HScroll1.Value = HScroll1.clamped(Rounding::toInt32(1.0f / Sensivity));
+    // Also when the thumb stays where it was (0.001 leaves it at the left end): the label
+    // still reads "Sensivity:" until it is first given a value.
+    HScroll1_Change();
 }
 
 void frmMouseSensivity::HScroll1_Change() {
@@ -38,9 +42,9 @@ void frmMouseSensivity::mnuAccept_Click() {
         showMessage("Unable to callback Form to set the Mouse Sensivity!",
                     "Error Passing Mouse Sensivity Message", MessageIcon::Exclamation);
     }
-    closed_ = true;
+    close();
 }
 
 void frmMouseSensivity::mnuCancel_Click() {
-    closed_ = true;
+    close();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Controls.h"
+#include "platform/Controls.h"
 
 #include <string>
 

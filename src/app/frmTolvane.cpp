@@ -1,98 +1,49 @@
 #include "app/frmTolvane.h"
 
+#include "app/frmMouseSensivity.h"
 #include "geometry/Rounding.h"
 #include "interaction/ClickHandleRotate.h"
 #include "platform/Canvas.h"
+#include "platform/ModalHost.h"
 #include "render/KorvanOpsConsts.h"
 
-#include <algorithm>
-
-frmTolvane::frmTolvane()
-    : document(SceneDocument::startUp()), mouseMode(std::make_unique<ClickHandleRotate>()) {
-    // Records 1 to 4: top, side, front and isometric, all in perspective.
-    const int views[4] = {KorvanOpsConsts::viewTop, KorvanOpsConsts::viewSide,
-                          KorvanOpsConsts::viewFront, KorvanOpsConsts::viewIsometric};
-    for (size_t i = 0; i < 4; ++i) {
-        viewSpecs[i] = ViewSpecs{};
-        KorvanOpsConsts::setOrthoView(views[i], viewSpecs[i]);
-    }
-}
+frmTolvane::frmTolvane(ModalHost& dialogs)
+    : modalHost(dialogs), document(SceneDocument::startUp()),
+      mouseMode(std::make_unique<ClickHandleRotate>()) {}
 
 void frmTolvane::attachCanvases(const std::array<Canvas*, 4>& canvases) {
-    picOrtho = canvases;
+    viewports.attachCanvases(canvases);
 }
 
 void frmTolvane::Form_Load() {
     redrawAllViewports();
 }
 
-void frmTolvane::Form_Resize(int width, int height) {
-    clientWidth = width;
-    clientHeight = height;
+void frmTolvane::Form_Resize(int clientWidth, int clientHeight) {
+    viewports.setClientSize(clientWidth, clientHeight);
     layoutViewports();
 }
 
 void frmTolvane::layoutViewports() {
-    const double W = clientWidth - clientWidth / 5.0;
-    const double H = std::max(clientHeight, 120);
-    const auto px = [](double value) { return Rounding::toInt32(value); };
-    const bool attached = std::all_of(picOrtho.begin(), picOrtho.end(),
-                                      [](const Canvas* canvas) { return canvas != nullptr; });
-    if (attached && viewportLayout == 4) {
-        for (Canvas* canvas : picOrtho) {
-            canvas->setVisible(true);
-        }
-        picOrtho[0]->move(0, 0, px(W / 2), px(H / 2));
-        picOrtho[1]->move(px(W / 2), 0, px(W / 2), px(H / 2));
-        picOrtho[2]->move(0, px(H / 2), px(W / 2), px(H / 2));
-        picOrtho[3]->move(px(W / 2), px(H / 2), px(W / 2), px(H / 2));
-    } else if (attached && viewportLayout == 1) {
-        for (int i = 0; i < 3; ++i) {
-            picOrtho[static_cast<size_t>(i)]->setVisible(false);
-        }
-        picOrtho[3]->setVisible(true);
-        for (int i = 0; i < 3; ++i) {
-            picOrtho[static_cast<size_t>(i)]->move(0, 0, 0, 0);
-        }
-        picOrtho[3]->move(0, 0, px(W), px(H));
-    }
-    treePlacement = ControlPlacement{px(W), 0, px(clientWidth / 5.0), clientHeight};
+    viewports.layoutViewports();
     redrawAllViewports();
 }
 
 void frmTolvane::redrawAllViewports() {
-    for (int i = 0; i < 4; ++i) {
-        redrawViewport(i);
-    }
-}
-
-void frmTolvane::redrawViewport(int index) {
-    Canvas* canvas = picOrtho[static_cast<size_t>(index)];
-    if (canvas == nullptr) {
-        return;
-    }
-    const ViewSpecs& record = specsOf(index);
-    renderer.redrawViewport(*canvas, record, document);
-    float ex;
-    float ey;
-    float ez;
-    KorvanOpsConsts::getEyePosition(record, ex, ey, ez);
-    viewInfo copy;
-    copy.setSpecs(record);
-    MouseEventArgs args{*canvas,          *this, Rounding::toInt32(ex), Rounding::toInt32(ey),
-                        MouseSensivity,   copy,  document.solids,       document.workPlanes,
-                        document.profiles};
-    mouseMode->drawDatum(args);
-    canvas->refresh();
+    viewports.redrawAll(document.scene(), [this](Canvas& canvas, const ViewSpecs& record) {
+        float ex;
+        float ey;
+        float ez;
+        KorvanOpsConsts::getEyePosition(record, ex, ey, ez);
+        std::optional<viewInfo> copy{viewInfo{}};
+        copy->setSpecs(record);
+        MouseEventArgs args = eventArgs(canvas, Rounding::toInt32(ex), Rounding::toInt32(ey), copy);
+        mouseMode->drawDatum(args);
+    });
 }
 
 std::optional<viewInfo> frmTolvane::getViewInfo(int32_t index) const {
-    if (index < 1 || index > 4) {
-        return std::nullopt;
-    }
-    viewInfo info;
-    info.setSpecs(viewSpecs[static_cast<size_t>(index - 1)]);
-    return info;
+    return viewports.getViewInfo(index);
 }
 
 void frmTolvane::getPicOrthoBounds(int32_t& lower, int32_t& upper) const {
@@ -100,25 +51,68 @@ void frmTolvane::getPicOrthoBounds(int32_t& lower, int32_t& upper) const {
     upper = 3;
 }
 
-MouseEventArgs frmTolvane::eventArgs(int index, float x, float y, viewInfo& view) {
-    return MouseEventArgs{*picOrtho[static_cast<size_t>(index)],
+void frmTolvane::resetAllSelect() {
+    selection.resetAllSelect();
+}
+
+void frmTolvane::setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
+    selection.setSelectedSolids(solids);
+}
+
+void frmTolvane::setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>& faces) {
+    selection.setSelectedFaces(faces);
+}
+
+void frmTolvane::setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) {
+    selection.selectedWorkplanes = workPlanes;
+}
+
+void frmTolvane::setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) {
+    selection.selectedProfiles = profiles;
+}
+
+void frmTolvane::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) {
+    selection.AddSelectNode(node, color);
+}
+
+void frmTolvane::addProfilePoint(const PointRecord& r) {
+    profileCommands.addProfilePoint(r);
+}
+
+bool frmTolvane::closeProfile() {
+    return profileCommands.closeProfile();
+}
+
+void frmTolvane::mnuSetMouseSensivity_Click() {
+    frmMouseSensivity dialog;
+    dialog.setSensivityDisplayValue(MouseSensivity);
+    dialog.setCallBackForm(this);
+    modalHost.showModal(dialog);
+}
+
+MouseEventArgs frmTolvane::eventArgs(Canvas& canvas, int32_t x, int32_t y,
+                                     std::optional<viewInfo>& view) {
+    return MouseEventArgs{canvas,
                           *this,
-                          Rounding::toInt32(x),
-                          Rounding::toInt32(y),
+                          x,
+                          y,
                           MouseSensivity,
                           view,
                           document.solids,
                           document.workPlanes,
-                          document.profiles};
+                          document.profiles,
+                          TreeView1};
 }
 
 void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y) {
-    if (index < 0 || index > 3 || picOrtho[static_cast<size_t>(index)] == nullptr) {
+    Canvas* canvas = viewports.canvas(index);
+    if (canvas == nullptr) {
         return;
     }
-    viewInfo vi;
-    vi.setSpecs(specsOf(index));
-    MouseEventArgs args = eventArgs(index, x, y, vi);
+    ViewSpecs& record = viewports.viewSpecs(index + 1);
+    std::optional<viewInfo> vi{viewInfo{}};
+    vi->setSpecs(record);
+    MouseEventArgs args = eventArgs(*canvas, Rounding::toInt32(x), Rounding::toInt32(y), vi);
     std::optional<viewInfo> result;
     switch (button) {
     case 1:
@@ -135,35 +129,38 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
         break; // several buttons at once: no handler
     }
     if (result) {
-        specsOf(index) = result->getSpecs();
+        record = result->getSpecs();
     }
     HandleCollectedDatum();
     redrawAllViewports();
 }
 
 void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y) {
-    if (index < 0 || index > 3 || picOrtho[static_cast<size_t>(index)] == nullptr) {
+    Canvas* canvas = viewports.canvas(index);
+    if (canvas == nullptr) {
         return;
     }
-    Canvas& canvas = *picOrtho[static_cast<size_t>(index)];
-    viewInfo vi;
-    vi.setSpecs(specsOf(index));
+    ViewSpecs& record = viewports.viewSpecs(index + 1);
+    const int32_t mouseX = Rounding::toInt32(x);
+    const int32_t mouseY = Rounding::toInt32(y);
+    std::optional<viewInfo> vi{viewInfo{}};
+    vi->setSpecs(record);
     if (button == 1) {
-        canvas.setMousePointer(mouseMode->getMouseIcon());
-        MouseEventArgs args = eventArgs(index, x, y, vi);
-        const std::optional<viewInfo> result = mouseMode->handleMouseMoveLeftClick(args);
-        if (result) {
-            vi = *result;
-            specsOf(index) = result->getSpecs();
+        canvas->setMousePointer(mouseMode->getMouseIcon());
+        MouseEventArgs args = eventArgs(*canvas, mouseX, mouseY, vi);
+        // The move handler below gets this result, none included.
+        vi = mouseMode->handleMouseMoveLeftClick(args);
+        if (vi) {
+            record = vi->getSpecs();
         }
     } else if (button != 2 && button != 4) {
-        canvas.setMousePointer(2);
+        canvas->setMousePointer(MousePointer::Crosshair);
     }
-    specsOf(index).anchorX = Rounding::toInt32(x);
-    specsOf(index).anchorY = Rounding::toInt32(y);
-    MouseEventArgs args = eventArgs(index, x, y, vi);
+    record.anchorX = mouseX;
+    record.anchorY = mouseY;
+    MouseEventArgs args = eventArgs(*canvas, mouseX, mouseY, vi);
     mouseMode->handleMouseMove(args);
     HandleCollectedDatum();
     redrawAllViewports();
-    canvas.refresh();
+    canvas->refresh();
 }

@@ -1,41 +1,33 @@
 #pragma once
 
+#include "app/MouseSensivityTarget.h"
+#include "app/ProfileCommands.h"
+#include "app/SceneDocument.h"
+#include "app/SceneTreeModel.h"
+#include "app/SelectionState.h"
+#include "app/ViewportSet.h"
 #include "interaction/ClickHandleNothing.h"
 #include "interaction/ClickReceiver.h"
 #include "io/TavrinMeshIO.h"
-#include "render/SceneDocument.h"
-#include "render/ViewSpecs.h"
-#include "render/ViewportRenderer.h"
-#include "render/viewInfo.h"
 
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 class Canvas;
-class Face3d;
+class ModalHost;
 
-// Where the window puts a control: its rectangle in the client area.
-struct ControlPlacement {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    bool operator==(const ControlPlacement&) const = default;
-};
-
-// The main window's logic. It owns the document (objects, lights, workplanes, profiles,
-// grid and axes), the four view records, the mouse mode and the selection, lays out the
-// four viewport canvases and the scene tree, redraws the viewports and dispatches mouse
-// events on them to the mouse mode. The Qt view (qt/frmTolvaneView) shows it and forwards
+// The main window's logic: the one object mouse modes and dialogs call back. Each of its
+// operations hands the work to a collaborator: the document, the selection, the scene tree,
+// the viewports. It also holds the sensitivity and the mouse mode and dispatches mouse
+// events on the canvases to the mode. The Qt view (qt/frmTolvaneView) shows it and forwards
 // the window's events; the canvases are the view's, attached with attachCanvases.
-class frmTolvane : public ClickReceiver {
+class frmTolvane : public ClickReceiver, public MouseSensivityTarget {
 public:
-    // The start-up document: everything but the canvases, which the view attaches.
-    frmTolvane();
+    // The start-up document; dialogs are shown through modalHost.
+    explicit frmTolvane(ModalHost& dialogs);
 
     std::string caption() const { return "Korvan Version 2.0"; }
 
@@ -46,54 +38,54 @@ public:
     // Resize of the client area: lays the viewports out for the new size.
     void Form_Resize(int clientWidth, int clientHeight);
 
-    // Places the canvases (one large or four in a 2 x 2 grid, in four fifths of the width)
-    // and the tree (the last fifth), then redraws.
     void layoutViewports();
     void redrawAllViewports();
 
-    // A copy of viewSpecs(index) for index 1 to 4, nothing otherwise.
     std::optional<viewInfo> getViewInfo(int32_t index) const;
     void getPicOrthoBounds(int32_t& lower, int32_t& upper) const;
-    void setMouseSensivity(float Sensivity) { MouseSensivity = Sensivity; }
+    void setMouseSensivity(float Sensivity) override { MouseSensivity = Sensivity; }
     float getMouseSensivity() const { return MouseSensivity; }
-    void HandleCollectedDatum() override {}
+    void HandleCollectedDatum() {}
+
+    // What selectors call back.
+    void resetAllSelect() override;
+    void setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) override;
+    void setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>& faces) override;
+    void setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) override;
+    void setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) override;
+    void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) override;
+    // What the profile tool calls back.
+    void addProfilePoint(const PointRecord& r) override;
+    bool closeProfile() override;
 
     // Mouse events of canvas picOrtho(index): button codes 1 left, 2 right, 4 middle and
     // their sums; coordinates in canvas pixels.
     void picOrtho_MouseDown(int index, int button, int shift, float x, float y);
     void picOrtho_MouseMove(int index, int button, int shift, float x, float y);
 
+    // Options, "&Set Mouse Sensivity": the sensitivity dialog, modally.
+    void mnuSetMouseSensivity_Click();
+
     void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) { mouseMode = std::move(mode); }
     ClickHandleNothing& getMouseMode() const { return *mouseMode; }
-    void setViewportLayout(int32_t layout) { viewportLayout = layout; }
-    int32_t getViewportLayout() const { return viewportLayout; }
+    void setViewportLayout(int32_t layout) { viewports.viewportLayout = layout; }
+    int32_t getViewportLayout() const { return viewports.viewportLayout; }
     int32_t getPopupViewport() const { return popupViewport; }
-    const ControlPlacement& getTreePlacement() const { return treePlacement; }
+    const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
-    const ViewSpecs& getViewSpecs(int index) const {
-        return viewSpecs[static_cast<size_t>(index - 1)];
-    }
+    const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
 private:
-    void redrawViewport(int index);
-    MouseEventArgs eventArgs(int index, float x, float y, viewInfo& view);
-    ViewSpecs& specsOf(int index) { return viewSpecs[static_cast<size_t>(index)]; }
+    MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
 
-    int32_t viewportLayout = 1;
+    ModalHost& modalHost;
     SceneDocument document;
-    std::vector<std::shared_ptr<Face3d>> selectedFaces;
-    std::vector<std::shared_ptr<Transformed3d>> selectedSolids;
-    std::vector<std::shared_ptr<WorkPlane>> selectedWorkplanes;
-    std::vector<std::shared_ptr<Profile>> selectedProfiles;
-    std::shared_ptr<Profile> currentProfile;
-    std::array<ViewSpecs, 4> viewSpecs;
+    SelectionState selection;
+    SceneTreeModel TreeView1;
+    ViewportSet viewports;
+    ProfileCommands profileCommands{document, selection};
     float MouseSensivity = 0.0025f;
     int32_t popupViewport = 0;
     std::unique_ptr<ClickHandleNothing> mouseMode;
     TavrinMeshIO meshIO;
-    ViewportRenderer renderer;
-    std::array<Canvas*, 4> picOrtho{};
-    int clientWidth = 0;
-    int clientHeight = 0;
-    ControlPlacement treePlacement;
 };

@@ -1,10 +1,10 @@
 #include "cli/CliApp.h"
 
+#include "app/SceneDocument.h"
 #include "cli/CliError.h"
 #include "cli/SvgCanvas.h"
 #include "io/TavrinMeshIO.h"
 #include "qt/QtCanvas.h"
-#include "render/SceneDocument.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
 
@@ -130,7 +130,7 @@ void CliApp::render(const CliOptions& options) {
 
     if (options.format == CliOptions::Format::Svg) {
         SvgCanvas canvas(options.width, options.height);
-        renderer.redrawViewport(canvas, view, document);
+        renderer.redrawViewport(canvas, view, document.scene());
         canvas.refresh();
         if (!canvas.saveFile(options.output)) {
             throw cannotWrite;
@@ -158,7 +158,7 @@ void CliApp::render(const CliOptions& options) {
         application.emplace(argc, argv);
     }
     QtCanvas canvas(options.width, options.height);
-    renderer.redrawViewport(canvas, view, document);
+    renderer.redrawViewport(canvas, view, document.scene());
     canvas.refresh();
     if (!canvas.saveImage(options.output)) {
         throw cannotWrite;

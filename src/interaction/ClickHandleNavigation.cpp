@@ -1,11 +1,14 @@
 #include "interaction/ClickHandleNavigation.h"
 
 std::optional<viewInfo> ClickHandleNavigation::handleMouseMoveLeftClick(MouseEventArgs& args) {
-    ViewSpecs specs = args.viewSpecs.getSpecs();
+    if (!args.viewSpecs) {
+        return std::nullopt;
+    }
+    ViewSpecs specs = args.viewSpecs->getSpecs();
     const int32_t dx = args.mouseX - specs.anchorX;
     const int32_t dy = args.mouseY - specs.anchorY;
     drag(specs, args.MouseSensivity, dx, dy);
-    args.viewSpecs.setSpecs(specs);
+    args.viewSpecs->setSpecs(specs);
     return args.viewSpecs;
 }
 

@@ -2,8 +2,8 @@
 
 void ClickHandleNothing::getData(std::vector<std::any>&, std::vector<std::any>&) {}
 
-int16_t ClickHandleNothing::getMouseIcon() const {
-    return 0;
+MousePointer ClickHandleNothing::getMouseIcon() const {
+    return MousePointer::Default;
 }
 
 std::optional<viewInfo> ClickHandleNothing::handleMouseMoveLeftClick(MouseEventArgs&) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interaction/MouseEventArgs.h"
+#include "platform/MousePointer.h"
 
 #include <any>
 #include <cstdint>
@@ -16,8 +17,8 @@ public:
 
     // The mode's collected data, and one sample object of the kind the data holds.
     virtual void getData(std::vector<std::any>& datum, std::vector<std::any>& castGuide);
-    // The canvas pointer while the mode is in use (0 default).
-    virtual int16_t getMouseIcon() const;
+    // The canvas pointer while the mode is in use.
+    virtual MousePointer getMouseIcon() const;
     virtual std::optional<viewInfo> handleMouseMoveLeftClick(MouseEventArgs& args);
     virtual std::optional<viewInfo> handleLeftClick(MouseEventArgs& args);
     virtual std::optional<viewInfo> handleRightClick(MouseEventArgs& args);

@@ -5,7 +5,7 @@
 // Pans the picture on the canvas; the picture moves by half the change of the shift.
 class ClickHandleScroll : public ClickHandleNavigation {
 public:
-    int16_t getMouseIcon() const override { return 6; }
+    MousePointer getMouseIcon() const override { return MousePointer::SizeDiagonal; }
 
 protected:
     void drag(ViewSpecs& specs, double sensitivity, int32_t dx, int32_t dy) const override;

@@ -5,7 +5,7 @@
 // Zooms with up-down drags; dragging down enlarges, and sideways drags do nothing.
 class ClickHandleZoom : public ClickHandleNavigation {
 public:
-    int16_t getMouseIcon() const override { return 7; }
+    MousePointer getMouseIcon() const override { return MousePointer::SizeVertical; }
 
 protected:
     void drag(ViewSpecs& specs, double sensitivity, int32_t dx, int32_t dy) const override;

@@ -1,10 +1,8 @@
 #pragma once
 
-// The window that mouse modes call back: the main window implements it. Modes sit below
-// the application layer, so they see the window only through this interface.
-class ClickReceiver {
-public:
-    virtual ~ClickReceiver() = default;
-    // Called after every press and movement; the main window does nothing with it.
-    virtual void HandleCollectedDatum() = 0;
-};
+#include "interaction/ProfileReceiver.h"
+#include "interaction/SelectionReceiver.h"
+
+// The window that mouse modes call back, with every role a mode may need. The main window
+// implements it; modes sit below the application layer and see the window only this way.
+class ClickReceiver : public SelectionReceiver, public ProfileReceiver {};

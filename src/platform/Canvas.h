@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/MousePointer.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -78,9 +80,8 @@ public:
     void setFillColor(int32_t color) { fillColor_ = color; }
     int32_t backColor() const { return backColor_; }
     void setBackColor(int32_t color) { backColor_ = color; }
-    // Pointer codes: 0 default, 2 crosshair, 6 and 7 sizing, 11 hourglass, 15 four-way move.
-    int mousePointer() const { return mousePointer_; }
-    virtual void setMousePointer(int pointer) { mousePointer_ = pointer; }
+    MousePointer mousePointer() const { return mousePointer_; }
+    virtual void setMousePointer(MousePointer pointer) { mousePointer_ = pointer; }
 
 private:
     int fillStyle_ = FillTransparent;
@@ -88,6 +89,6 @@ private:
     int32_t foreColor_ = 0;
     int32_t fillColor_ = 0;
     int32_t backColor_ = 0; // viewports are black, so that white axes and grey grid stand out
-    int mousePointer_ = 0;
+    MousePointer mousePointer_ = MousePointer::Default;
     bool visible_ = true;
 };

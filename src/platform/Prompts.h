@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-enum class MessageIcon : int { Critical = 16, Exclamation = 48, Information = 64 };
+enum class MessageIcon : int { None = 0, Critical = 16, Exclamation = 48, Information = 64 };
 enum class MessageButtons { Ok, YesNo };
 enum class MessageAnswer { Ok, Yes, No };
 

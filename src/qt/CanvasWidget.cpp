@@ -16,21 +16,22 @@ int buttonCode(Qt::MouseButtons buttons) {
            (buttons & Qt::MiddleButton ? 4 : 0);
 }
 
-Qt::CursorShape cursorFor(int pointer) {
+Qt::CursorShape cursorFor(MousePointer pointer) {
     switch (pointer) {
-    case 2:
-        return Qt::CrossCursor;
-    case 6:
-        return Qt::SizeBDiagCursor;
-    case 7:
-        return Qt::SizeVerCursor;
-    case 11:
-        return Qt::WaitCursor;
-    case 15:
-        return Qt::SizeAllCursor;
-    default:
+    case MousePointer::Default:
         return Qt::ArrowCursor;
+    case MousePointer::Crosshair:
+        return Qt::CrossCursor;
+    case MousePointer::SizeDiagonal:
+        return Qt::SizeBDiagCursor;
+    case MousePointer::SizeVertical:
+        return Qt::SizeVerCursor;
+    case MousePointer::Hourglass:
+        return Qt::WaitCursor;
+    case MousePointer::SizeAll:
+        return Qt::SizeAllCursor;
     }
+    return Qt::ArrowCursor;
 }
 
 } // namespace
@@ -48,7 +49,7 @@ void CanvasWidget::Surface::setVisible(bool visible) {
     widget_.setVisible(visible);
 }
 
-void CanvasWidget::Surface::setMousePointer(int pointer) {
+void CanvasWidget::Surface::setMousePointer(MousePointer pointer) {
     QtCanvas::setMousePointer(pointer);
     widget_.setCursor(cursorFor(pointer));
 }
@@ -78,6 +79,12 @@ void CanvasWidget::resizeEvent(QResizeEvent* event) {
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
     emit mousePressed(buttonCode(event->button()), shiftState(event->modifiers()),
                       event->position().x(), event->position().y());
+}
+
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Qt reports the second click of a double-click as a press and then once more as a
+    // double-click; the press is the click, so the double-click is dropped.
+    event->accept();
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -6,7 +6,8 @@
 
 // A viewport on screen: shows its canvas's image, lets the core place, show, hide and
 // point it through the canvas, and reports mouse events with the button codes of the core
-// (1 left, 2 right, 4 middle, added up) and the shift state (1 shift, 2 ctrl, 4 alt).
+// (1 left, 2 right, 4 middle, added up) and the shift state (1 shift, 2 ctrl, 4 alt), one
+// press per click.
 class CanvasWidget : public QWidget {
     Q_OBJECT
 public:
@@ -22,6 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
@@ -31,7 +33,7 @@ private:
         explicit Surface(CanvasWidget& widget);
         void move(int left, int top, int width, int height) override;
         void setVisible(bool visible) override;
-        void setMousePointer(int pointer) override;
+        void setMousePointer(MousePointer pointer) override;
         void refresh() override;
 
     private:

@@ -9,6 +9,8 @@ MessageAnswer QtPrompts::messageBox(const std::string& text, const std::string& 
     box.setWindowTitle(QString::fromStdString(title));
     box.setText(QString::fromStdString(text));
     switch (icon) {
+    case MessageIcon::None:
+        break;
     case MessageIcon::Critical:
         box.setIcon(QMessageBox::Critical);
         break;

@@ -1,11 +1,12 @@
 #include "qt/frmMouseSensivityView.h"
 
+#include "app/EventGuard.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QVBoxLayout>
-#include <algorithm>
 
 frmMouseSensivityView::frmMouseSensivityView(frmMouseSensivity& form, QWidget* parent)
     : QDialog(parent), form_(form), HScroll1_(new QScrollBar(Qt::Horizontal, this)),
@@ -13,27 +14,26 @@ frmMouseSensivityView::frmMouseSensivityView(frmMouseSensivity& form, QWidget* p
     setWindowTitle(QString::fromStdString(form_.caption()));
 
     auto* menuBar = new QMenuBar(this);
-    connect(menuBar->addAction(QString::fromStdString(form_.mnuAccept.Caption)),
-            &QAction::triggered, this, [this] {
-                form_.mnuAccept_Click();
-                closeIfDone(true);
-            });
-    connect(menuBar->addAction(QString::fromStdString(form_.mnuCancel.Caption)),
-            &QAction::triggered, this, [this] {
-                form_.mnuCancel_Click();
-                closeIfDone(false);
-            });
+    const auto addItem = [this, menuBar](const ButtonState& item, const std::string& name) {
+        connect(menuBar->addAction(QString::fromStdString(item.Caption)), &QAction::triggered, this,
+                [this, name] {
+                    EventGuard::run([this, &name] { form_.press(name); });
+                    closeIfDone();
+                });
+    };
+    addItem(form_.mnuAccept, "mnuAccept");
+    addItem(form_.mnuCancel, "mnuCancel");
 
-    // A Qt scroll bar needs its minimum below its maximum: when the logic's bar runs from a
-    // larger Min on the left, the range is turned round and the appearance inverted.
+    // The Qt bar counts positions from its left end, so that its arrows, trough and
+    // Home/End move the thumb the way it is drawn whichever way the values run.
     const ScrollBarState& bar = form_.HScroll1;
-    HScroll1_->setRange(std::min(bar.Min, bar.Max), std::max(bar.Min, bar.Max));
-    HScroll1_->setInvertedAppearance(bar.Min > bar.Max);
-    HScroll1_->setValue(bar.Value);
+    HScroll1_->setRange(0, bar.span());
+    HScroll1_->setValue(bar.positionOf(bar.Value));
     HScroll1_->setMinimumWidth(240);
-    connect(HScroll1_, &QScrollBar::valueChanged, this, [this](int value) {
-        form_.HScroll1.Value = value;
-        form_.HScroll1_Change();
+    connect(HScroll1_, &QScrollBar::valueChanged, this, [this](int position) {
+        EventGuard::run([this, position] {
+            form_.moveScrollBar("HScroll1", form_.HScroll1.valueAt(position));
+        });
         lblSens_->setText(QString::fromStdString(form_.lblSens.Caption));
     });
 
@@ -47,8 +47,8 @@ frmMouseSensivityView::frmMouseSensivityView(frmMouseSensivity& form, QWidget* p
     layout->addWidget(lblSens_);
 }
 
-void frmMouseSensivityView::closeIfDone(bool accepted) {
+void frmMouseSensivityView::closeIfDone() {
     if (form_.isClosed()) {
-        done(accepted ? QDialog::Accepted : QDialog::Rejected);
+        accept();
     }
 }

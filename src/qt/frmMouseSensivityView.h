@@ -8,15 +8,17 @@ class QLabel;
 class QScrollBar;
 
 // Shows the mouse sensitivity dialog's logic (frmMouseSensivity): the scroll bar between
-// "Dull" and "Nervous", the percentage label and the Accept and Cancel menu items. Run it
-// with exec(); it closes when the logic says so.
+// "Dull" and "Nervous", the percentage label and the Accept and Cancel menu items. The
+// modal host runs it; it closes when the logic says so.
 class frmMouseSensivityView : public QDialog {
     Q_OBJECT
 public:
     explicit frmMouseSensivityView(frmMouseSensivity& form, QWidget* parent = nullptr);
 
+    QScrollBar& scrollBar() { return *HScroll1_; }
+
 private:
-    void closeIfDone(bool accepted);
+    void closeIfDone();
 
     frmMouseSensivity& form_;
     QScrollBar* HScroll1_;

@@ -1,5 +1,6 @@
 #include "qt/frmSplashView.h"
 
+#include "app/EventGuard.h"
 #include "qt/CanvasWidget.h"
 
 #include <QImage>
@@ -40,11 +41,12 @@ frmSplashView::frmSplashView(frmSplash& form, QWidget* parent)
     form_.Form_Load(picCanvas_->canvas(), loadLogo(), clock_.tickCount());
 
     animation_.setInterval(frameInterval);
-    connect(&animation_, &QTimer::timeout, this, [this] { form_.tick(clock_.tickCount()); });
+    connect(&animation_, &QTimer::timeout, this,
+            [this] { EventGuard::run([this] { form_.tick(clock_.tickCount()); }); });
     Timer1_.setSingleShot(true);
     Timer1_.setInterval(frmSplash::Timer1Interval);
     connect(&Timer1_, &QTimer::timeout, this, [this] {
-        form_.Timer1_Timer();
+        EventGuard::run([this] { form_.Timer1_Timer(); });
         handOverIfClosed();
     });
     animation_.start();
@@ -52,12 +54,12 @@ frmSplashView::frmSplashView(frmSplash& form, QWidget* parent)
 }
 
 void frmSplashView::keyPressEvent(QKeyEvent*) {
-    form_.Form_KeyDown();
+    EventGuard::run([this] { form_.Form_KeyDown(); });
     handOverIfClosed();
 }
 
 void frmSplashView::resizeEvent(QResizeEvent* event) {
-    form_.Form_Resize(event->size().width(), event->size().height());
+    EventGuard::run([&] { form_.Form_Resize(event->size().width(), event->size().height()); });
     QWidget::resizeEvent(event);
 }
 

@@ -1,7 +1,9 @@
 #include "qt/frmTolvaneView.h"
 
+#include "app/EventGuard.h"
 #include "qt/CanvasWidget.h"
 
+#include <QMenuBar>
 #include <QResizeEvent>
 #include <QStandardItemModel>
 #include <QTreeView>
@@ -39,26 +41,34 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
         canvases[static_cast<size_t>(i)] = &widget->canvas();
         connect(widget, &CanvasWidget::mousePressed, this,
                 [this, i](int button, int shift, double x, double y) {
-                    form_.picOrtho_MouseDown(i, button, shift, static_cast<float>(x),
-                                             static_cast<float>(y));
+                    EventGuard::run([&] {
+                        form_.picOrtho_MouseDown(i, button, shift, static_cast<float>(x),
+                                                 static_cast<float>(y));
+                    });
                 });
         connect(widget, &CanvasWidget::mouseMoved, this,
                 [this, i](int button, int shift, double x, double y) {
-                    form_.picOrtho_MouseMove(i, button, shift, static_cast<float>(x),
-                                             static_cast<float>(y));
+                    EventGuard::run([&] {
+                        form_.picOrtho_MouseMove(i, button, shift, static_cast<float>(x),
+                                                 static_cast<float>(y));
+                    });
                 });
     }
+    QMenu* options = menuBar()->addMenu("&Options");
+    connect(options->addAction("&Set Mouse Sensivity"), &QAction::triggered, this,
+            [this] { EventGuard::run([this] { form_.mnuSetMouseSensivity_Click(); }); });
+
     tree_ = new QTreeView(client);
     tree_->setHeaderHidden(true);
     tree_->setModel(new QStandardItemModel(tree_));
 
     form_.attachCanvases(canvases);
     resize(1280, 800);
-    form_.Form_Load();
+    EventGuard::run([this] { form_.Form_Load(); });
 }
 
 void frmTolvaneView::clientResized(int width, int height) {
-    form_.Form_Resize(width, height);
+    EventGuard::run([&] { form_.Form_Resize(width, height); });
     const ControlPlacement& tree = form_.getTreePlacement();
     tree_->setGeometry(tree.left, tree.top, tree.width, tree.height);
 }

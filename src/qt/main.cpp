@@ -1,6 +1,9 @@
+#include "app/frmMouseSensivity.h"
 #include "app/frmSplash.h"
 #include "app/frmTolvane.h"
+#include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
+#include "qt/frmMouseSensivityView.h"
 #include "qt/frmSplashView.h"
 #include "qt/frmTolvaneView.h"
 
@@ -8,7 +11,9 @@
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    frmTolvane form;
+    QtModalHost dialogs;
+    dialogs.registerView<frmMouseSensivity, frmMouseSensivityView>();
+    frmTolvane form(dialogs);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);
     installPrompts(&prompts);

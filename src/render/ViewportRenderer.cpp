@@ -9,7 +9,7 @@
 #include "scene/WorkPlane.h"
 
 void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
-                                      SceneDocument& document) {
+                                      const ViewportScene& scene) {
     float ex;
     float ey;
     float ez;
@@ -18,71 +18,71 @@ void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
 
     // Pure wireframe shows back faces too; every other mode culls them.
     const bool cullBackFaces = !(record.wireFrame && !record.HideSurfaces);
-    for (const auto& object : document.solids) {
+    for (const auto& object : scene.solids) {
         object->Culled(false);
         object->HideSurfaces(record.HideSurfaces);
         if (cullBackFaces) {
             object->cull(ex, ey, ez);
         }
     }
-    for (const auto& object : document.solids) {
+    for (const auto& object : scene.solids) {
         object->ApplyFull(full);
         object->clipEye(record.EyeR);
     }
-    for (const auto& workPlane : document.workPlanes) {
+    for (const auto& workPlane : scene.workPlanes) {
         workPlane->ApplyFull(full);
         workPlane->clipEye(record.EyeR);
     }
-    for (const auto& profile : document.profiles) {
+    for (const auto& profile : scene.profiles) {
         profile->ApplyFull(full);
     }
-    const bool showGrid = document.showGrid && document.grid;
+    const bool showGrid = scene.showGrid && scene.grid;
     if (showGrid) {
-        document.grid->cull(ex, ey, ez);
-        document.grid->ApplyFull(full);
-        document.grid->clipEye(record.EyeR);
+        scene.grid->cull(ex, ey, ez);
+        scene.grid->ApplyFull(full);
+        scene.grid->clipEye(record.EyeR);
     }
-    const auto sorted = sortSolidsByDepth(document);
-    LightRanges::updateLightRanges(document.light_sources, document.solids);
+    const auto sorted = sortSolidsByDepth(scene.solids);
+    LightRanges::updateLightRanges(scene.light_sources, scene.solids);
 
     canvas.setFillStyle(FillSolid);
     canvas.setDrawStyle(DrawInvisible);
     canvas.clear();
     if (showGrid) {
-        document.grid->draw(canvas, document.light_sources, ambientLight, ex, ey, ez, false, true,
-                            gridGrey, gridGrey, gridGrey);
+        scene.grid->draw(canvas, scene.light_sources, ambientLight, ex, ey, ez, false, true,
+                         gridGrey, gridGrey, gridGrey);
     }
     for (const auto& object : sorted) {
         const bool selected = object->isSelected();
-        object->draw(canvas, document.light_sources, ambientLight, ex, ey, ez, false, false,
+        object->draw(canvas, scene.light_sources, ambientLight, ex, ey, ez, false, false,
                      record.wireFrame, selected ? selectedObjectRed : -1,
                      selected ? selectedObjectGreen : -1, selected ? selectedObjectBlue : -1,
                      selectedFaceRed, selectedFaceGreen, selectedFaceBlue);
     }
-    for (const auto& workPlane : document.workPlanes) {
+    for (const auto& workPlane : scene.workPlanes) {
         workPlane->draw(canvas, workplaneFillStyle, workplaneTintRed, workplaneTintGreen,
                         workplaneTintBlue);
     }
-    for (const auto& profile : document.profiles) {
-        profile->draw(canvas, document.profileRed, document.profileGreen, document.profileBlue);
+    for (const auto& profile : scene.profiles) {
+        profile->draw(canvas, scene.profileRed, scene.profileGreen, scene.profileBlue);
     }
-    if (document.showReferenceAxes && document.referenceAxes) {
-        document.referenceAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
-                                     record.ProjectionType, true, 0, 0);
+    if (scene.showReferenceAxes && scene.referenceAxes) {
+        scene.referenceAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
+                                  record.ProjectionType, true, 0, 0);
     }
-    if (document.showZeroAxes && document.zeroAxes) {
-        document.zeroAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
-                                record.ProjectionType, false, record.shiftx, record.shifty);
+    if (scene.showZeroAxes && scene.zeroAxes) {
+        scene.zeroAxes->draw(canvas, record.EyeR, record.EyeTheta, record.EyePhi,
+                             record.ProjectionType, false, record.shiftx, record.shifty);
     }
 }
 
 std::vector<std::shared_ptr<Transformed3d>>
-ViewportRenderer::sortSolidsByDepth(const SceneDocument& document) {
+ViewportRenderer::sortSolidsByDepth(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
     if (!depthSorter_) {
         depthSorter_ = std::make_unique<RadixSort<Transformed3d>>();
     }
     depthSorter_->reset(8);
-    for (const auto& object : document.solids) {
+    for (const auto& object : solids) {
         object->SetZMax();
         depthSorter_->addObject(object, object->zmax());
     }

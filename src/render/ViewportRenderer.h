@@ -1,8 +1,8 @@
 #pragma once
 
 #include "render/RadixSort.h"
-#include "render/SceneDocument.h"
 #include "render/ViewSpecs.h"
+#include "render/ViewportScene.h"
 
 #include <memory>
 #include <vector>
@@ -25,9 +25,10 @@ public:
     static constexpr int workplaneFillStyle = 7;
     static constexpr int workplaneTintRed = 0, workplaneTintGreen = 150, workplaneTintBlue = 0;
 
-    void redrawViewport(Canvas& canvas, const ViewSpecs& record, SceneDocument& document);
+    void redrawViewport(Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
     // The objects in painting order: ascending largest depth, farthest first.
-    std::vector<std::shared_ptr<Transformed3d>> sortSolidsByDepth(const SceneDocument& document);
+    std::vector<std::shared_ptr<Transformed3d>>
+    sortSolidsByDepth(const std::vector<std::shared_ptr<Transformed3d>>& solids);
 
 private:
     std::unique_ptr<RadixSort<Transformed3d>> depthSorter_;

@@ -1,27 +1,36 @@
 #include "app/frmMouseSensivity.h"
 
-#include "app/frmTolvane.h"
+#include "app/MouseSensivityTarget.h"
+#include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
 
 #include <gtest/gtest.h>
 
+namespace {
+
+struct Target : MouseSensivityTarget {
+    float Sensivity = 0.0025f;
+    void setMouseSensivity(float value) override { Sensivity = value; }
+};
+
+} // namespace
+
 TEST(frmMouseSensivity, ShowsTheSensitivityAsReciprocalAndPercentage) {
     frmMouseSensivity dialog;
     EXPECT_EQ(dialog.caption(), "Set Mouse Sensivity");
-    EXPECT_EQ(dialog.HScroll1.Min, 1000);
-    EXPECT_EQ(dialog.HScroll1.Max, 1);
     EXPECT_EQ(dialog.lblSens.Caption, "Sensivity:");
 
     dialog.setSensivityDisplayValue(0.0025f);
     EXPECT_EQ(dialog.HScroll1.Value, 400);
     EXPECT_EQ(dialog.lblSens.Caption, "Sensivity: 60%");
-
-    dialog.HScroll1.Value = 1;
-    dialog.HScroll1_Change();
+    dialog.moveScrollBar("HScroll1", 1);
     EXPECT_EQ(dialog.lblSens.Caption, "Sensivity: 99.9%");
-    dialog.HScroll1.Value = 1000;
-    dialog.HScroll1_Change();
-    EXPECT_EQ(dialog.lblSens.Caption, "Sensivity: 0%");
+
+    // The left end is where a new bar's thumb already stands; the label shows it all the same.
+    frmMouseSensivity dull;
+    dull.setSensivityDisplayValue(0.001f);
+    EXPECT_EQ(dull.HScroll1.Value, 1000);
+    EXPECT_EQ(dull.lblSens.Caption, "Sensivity: 0%");
 
     // Halves go to even; what the bar cannot show goes to its nearer end.
     dialog.setSensivityDisplayValue(1 / 2.5f);
@@ -34,26 +43,25 @@ TEST(frmMouseSensivity, ShowsTheSensitivityAsReciprocalAndPercentage) {
     EXPECT_EQ(dialog.HScroll1.Value, 1);
 }
 
-TEST(frmMouseSensivity, AcceptSetsTheMainWindowsSensitivityCancelDoesNot) {
+TEST(frmMouseSensivity, AcceptSetsTheTargetsSensitivityCancelDoesNot) {
     ScriptedPrompts prompts;
-    frmTolvane main;
+    ScriptedModalHost host;
+    Target target;
     for (const auto& [value, expected] : {std::pair{1, 1.0f}, std::pair{1000, 0.001f}}) {
         frmMouseSensivity dialog;
-        dialog.setSensivityDisplayValue(main.getMouseSensivity());
-        dialog.setCallBackForm(&main);
-        dialog.HScroll1.Value = value;
-        dialog.mnuAccept_Click();
-        EXPECT_TRUE(dialog.isClosed());
-        EXPECT_EQ(main.getMouseSensivity(), expected);
+        dialog.setCallBackForm(&target);
+        host.queueDialog(
+            {ScriptedModalHost::scroll("HScroll1", value), ScriptedModalHost::press("mnuAccept")});
+        host.showModal(dialog);
+        EXPECT_EQ(target.Sensivity, expected);
     }
 
     frmMouseSensivity cancelled;
-    cancelled.setSensivityDisplayValue(main.getMouseSensivity());
-    cancelled.setCallBackForm(&main);
-    cancelled.HScroll1.Value = 400;
-    cancelled.mnuCancel_Click();
-    EXPECT_TRUE(cancelled.isClosed());
-    EXPECT_EQ(main.getMouseSensivity(), 0.001f);
+    cancelled.setCallBackForm(&target);
+    host.queueDialog(
+        {ScriptedModalHost::scroll("HScroll1", 400), ScriptedModalHost::press("mnuCancel")});
+    host.showModal(cancelled);
+    EXPECT_EQ(target.Sensivity, 0.001f);
     EXPECT_TRUE(prompts.messages().empty());
 }
 

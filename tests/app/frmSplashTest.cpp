@@ -53,10 +53,12 @@ TEST(frmSplash, FramePaintsOutwardLitCubesFarthestFirstThenLogoAndText) {
     // the top and front faces but not the right ones (its fitted range keeps them lit).
     int lit = 0;
     for (size_t i = 1; i <= 24; ++i) {
-        ASSERT_TRUE(calls[i].kind == Kind::Polygon && calls[i].fillStyle == FillSolid);
+        ASSERT_EQ(calls[i].kind, Kind::Polygon) << i;
+        EXPECT_EQ(calls[i].fillStyle, FillSolid) << i;
         const int red = calls[i].fillColor & 0xFF, green = (calls[i].fillColor >> 8) & 0xFF,
                   blue = calls[i].fillColor >> 16;
-        EXPECT_TRUE(green >= red && green >= blue);
+        EXPECT_GE(green, red) << i;
+        EXPECT_GE(green, blue) << i;
         lit += green > red && green > blue ? 1 : 0;
     }
     EXPECT_EQ(lit, 16);
@@ -65,12 +67,16 @@ TEST(frmSplash, FramePaintsOutwardLitCubesFarthestFirstThenLogoAndText) {
     EXPECT_EQ(cubeOf(splash, calls[24]), 7);
 
     EXPECT_EQ(calls[25].kind, Kind::StretchBlit);
-    EXPECT_TRUE(calls[25].points[0].x == 0 && calls[25].points[0].y == 0 &&
-                calls[25].points[1].x == 400 && calls[25].points[1].y == 300);
+    EXPECT_EQ(calls[25].points[0].x, 0);
+    EXPECT_EQ(calls[25].points[0].y, 0);
+    EXPECT_EQ(calls[25].points[1].x, 400);
+    EXPECT_EQ(calls[25].points[1].y, 300);
     for (int i = 0; i < 3; ++i) {
         const auto& text = calls[26 + i];
-        EXPECT_TRUE(text.kind == Kind::Text && text.foreColor == 16776960 &&
-                    text.points[0].x == 0 && text.points[0].y == 12 * i);
+        EXPECT_EQ(text.kind, Kind::Text) << i;
+        EXPECT_EQ(text.foreColor, 16776960) << i;
+        EXPECT_EQ(text.points[0].x, 0) << i;
+        EXPECT_EQ(text.points[0].y, 12 * i) << i;
     }
     EXPECT_EQ(calls[26].text, "Tavrin Korvan");
     EXPECT_EQ(calls[27].text, "Version 2.0 Beta Revision B");
@@ -105,7 +111,8 @@ TEST(frmSplash, CameraStepsAfterMoreThanTenMillisecondsUntilTimerOrKeyCloses) {
         (closed.*close)();
         canvas.forget();
         closed.tick(100);
-        EXPECT_TRUE(closed.isClosed() && canvas.calls().empty());
+        EXPECT_TRUE(closed.isClosed());
+        EXPECT_TRUE(canvas.calls().empty());
     }
 }
 
@@ -116,8 +123,11 @@ TEST(frmSplash, ResizeFillsTheWindowButKeepsAtLeast120) {
     const int cases[][4] = {{50, 300, 120, 300}, {640, -5, 640, 120}};
     for (const auto& c : cases) {
         const auto size = splash.Form_Resize(c[0], c[1]);
-        EXPECT_TRUE(size.width == c[2] && size.height == c[3] && canvas.left() == 0 &&
-                    canvas.top() == 0 && canvas.scaleWidth() == c[2] &&
-                    canvas.scaleHeight() == c[3]);
+        EXPECT_EQ(size.width, c[2]);
+        EXPECT_EQ(size.height, c[3]);
+        EXPECT_EQ(canvas.left(), 0);
+        EXPECT_EQ(canvas.top(), 0);
+        EXPECT_EQ(canvas.scaleWidth(), c[2]);
+        EXPECT_EQ(canvas.scaleHeight(), c[3]);
     }
 }

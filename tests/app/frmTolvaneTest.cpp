@@ -2,9 +2,9 @@
 
 #include "interaction/ClickHandleScroll.h"
 #include "interaction/ClickHandleZoom.h"
-#include "render/KorvanOpsConsts.h"
 #include "render/LightSource.h"
 #include "support/RecordingCanvas.h"
+#include "support/ScriptedModalHost.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,9 @@ namespace {
 
 // A main window with four recording canvases attached.
 struct Window {
+    ScriptedModalHost dialogs;
     std::array<RecordingCanvas, 4> canvases;
-    frmTolvane form;
+    frmTolvane form{dialogs};
 
     Window() {
         form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
@@ -28,6 +29,16 @@ struct Window {
     }
 };
 
+// A mode whose left drag leaves the view alone (returns none); it notes what the move
+// handler of the same event receives.
+struct DragReturnsNone : ClickHandleNothing {
+    std::vector<bool> moveGotView;
+    std::optional<viewInfo> handleMouseMove(MouseEventArgs& args) override {
+        moveGotView.push_back(args.viewSpecs.has_value());
+        return std::nullopt;
+    }
+};
+
 } // namespace
 
 TEST(frmTolvane, StartsWithTheDocumentViewsAndSingleViewport) {
@@ -35,7 +46,7 @@ TEST(frmTolvane, StartsWithTheDocumentViewsAndSingleViewport) {
     EXPECT_EQ(w.form.caption(), "Korvan Version 2.0");
     EXPECT_EQ(w.form.getMouseSensivity(), 0.0025f);
     EXPECT_EQ(w.form.getViewportLayout(), 1);
-    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), 15); // rotate
+    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::SizeAll); // rotate
 
     const float quarter = static_cast<float>(3.14159265358979 / 2);
     EXPECT_EQ(w.form.getViewSpecs(1).EyePhi, quarter); // top
@@ -67,36 +78,6 @@ TEST(frmTolvane, StartsWithTheDocumentViewsAndSingleViewport) {
     }
 }
 
-TEST(frmTolvane, LaysOutOneOrFourViewportsBesideTheTree) {
-    Window w;
-    w.form.Form_Resize(1000, 600);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_FALSE(w.canvases[static_cast<size_t>(i)].isVisible());
-        EXPECT_EQ(w.canvases[static_cast<size_t>(i)].scaleWidth(), 0);
-    }
-    EXPECT_TRUE(w.canvases[3].isVisible());
-    EXPECT_EQ(w.canvases[3].scaleWidth(), 800);
-    EXPECT_EQ(w.canvases[3].scaleHeight(), 600);
-    EXPECT_EQ(w.form.getTreePlacement(), (ControlPlacement{800, 0, 200, 600}));
-
-    // Below a height of 120 the canvases are laid out as if it were 120; the tree is not.
-    w.form.Form_Resize(1000, 90);
-    EXPECT_EQ(w.canvases[3].scaleHeight(), 120);
-    EXPECT_EQ(w.form.getTreePlacement().height, 90);
-
-    w.form.setViewportLayout(4);
-    w.form.Form_Resize(1000, 600);
-    for (const auto& canvas : w.canvases) {
-        EXPECT_TRUE(canvas.isVisible());
-        EXPECT_EQ(canvas.scaleWidth(), 400);
-        EXPECT_EQ(canvas.scaleHeight(), 300);
-    }
-    EXPECT_EQ(w.canvases[3].left(), 400);
-    EXPECT_EQ(w.canvases[3].top(), 300);
-    EXPECT_EQ(w.canvases[1].left(), 400);
-    EXPECT_EQ(w.canvases[1].top(), 0);
-}
-
 TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
     Window w;
     w.form.setMouseSensivity(0.01f);
@@ -107,7 +88,7 @@ TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
     EXPECT_NEAR(turned.EyePhi - before.EyePhi, -0.05, 1e-6);
     EXPECT_EQ(turned.anchorX, 110);
     EXPECT_EQ(turned.anchorY, 95);
-    EXPECT_EQ(w.canvases[3].mousePointer(), 15);
+    EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::SizeAll);
     // Only the record of the canvas under the mouse changes.
     EXPECT_EQ(w.form.getViewSpecs(1).EyeTheta, 0.0f);
 
@@ -130,10 +111,21 @@ TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
     expected.anchorX = 40;
     expected.anchorY = 40;
     EXPECT_EQ(w.form.getViewSpecs(4), expected);
-    EXPECT_EQ(w.canvases[3].mousePointer(), 2);
+    EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::Crosshair);
 }
 
-TEST(frmTolvane, PressesAndViewInfoCopies) {
+TEST(frmTolvane, MoveHandlerGetsNoViewAfterALeftDragHandlerReturnedNone) {
+    Window w;
+    auto mode = std::make_unique<DragReturnsNone>();
+    const auto& moveGotView = mode->moveGotView;
+    w.form.setMouseMode(std::move(mode));
+    w.drag(3, 1, 10, 10, 20, 20);
+    ASSERT_EQ(moveGotView.size(), 2u);
+    EXPECT_TRUE(moveGotView[0]);  // no button: the copy of the record
+    EXPECT_FALSE(moveGotView[1]); // left drag: what the drag handler returned
+}
+
+TEST(frmTolvane, RightPressRemembersItsViewportAndViewInfoIsACopy) {
     Window w;
     const ViewSpecs before = w.form.getViewSpecs(2);
     w.form.picOrtho_MouseDown(1, 2, 0, 10, 10);
@@ -148,9 +140,19 @@ TEST(frmTolvane, PressesAndViewInfoCopies) {
     changed.zoom = 1;
     info->setSpecs(changed);
     EXPECT_EQ(w.form.getViewSpecs(4).zoom, 200.0f);
-    int32_t lower = -1;
-    int32_t upper = -1;
-    w.form.getPicOrthoBounds(lower, upper);
-    EXPECT_EQ(lower, 0);
-    EXPECT_EQ(upper, 3);
+}
+
+TEST(frmTolvane, SetMouseSensivityRunsTheDialogModally) {
+    Window w;
+    w.dialogs.queueDialog(
+        {ScriptedModalHost::scroll("HScroll1", 1), ScriptedModalHost::press("mnuAccept")});
+    w.form.mnuSetMouseSensivity_Click();
+    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+
+    w.dialogs.queueDialog(
+        {ScriptedModalHost::scroll("HScroll1", 1000), ScriptedModalHost::press("mnuCancel")});
+    w.form.mnuSetMouseSensivity_Click();
+    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+    EXPECT_EQ(w.dialogs.shown(),
+              (std::vector<std::string>{"Set Mouse Sensivity", "Set Mouse Sensivity"}));
 }

@@ -2,6 +2,7 @@
 #include "cli/SvgCanvas.h"
 #include "geometry/M3Ops.h"
 #include "io/TavrinMeshIO.h"
+#include "platform/ModalHost.h"
 #include "scene/Transformed3d.h"
 
 #include <QImage>
@@ -100,7 +101,10 @@ TEST_F(CliEndToEnd, DefaultRenderIsWhatTheEditorShowsAtStartUp) {
     const Outcome rendered = run("render " + scene_ + " -o " + at("default.svg"));
     ASSERT_EQ(rendered.status, 0) << rendered.err;
 
-    frmTolvane editor;
+    struct NoDialogs : ModalHost {
+        void showModal(ModalDialog&) override {}
+    } dialogs;
+    frmTolvane editor(dialogs);
     SvgCanvas top(400, 300), side(400, 300), front(400, 300), single(800, 600);
     editor.attachCanvases({&top, &side, &front, &single});
     std::string name = path_;

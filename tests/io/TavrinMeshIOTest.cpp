@@ -1,5 +1,6 @@
 #include "io/TavrinMeshIO.h"
 
+#include "app/SceneDocument.h"
 #include "io/FileBytes.h"
 #include "io/LittleEndianWriter.h"
 #include "render/KorvanOpsConsts.h"
@@ -99,7 +100,7 @@ void drawEveryWay(const ObjectList& objects) {
         view.HideSurfaces = way & 1;
         view.wireFrame = way & 2;
         RecordingCanvas canvas(200, 150);
-        ViewportRenderer().redrawViewport(canvas, view, document);
+        ViewportRenderer().redrawViewport(canvas, view, document.scene());
         for (const auto& object : objects) {
             object->createFaceRegionEncaps(view.HideSurfaces, true, 2);
         }

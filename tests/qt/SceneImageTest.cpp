@@ -1,3 +1,4 @@
+#include "app/SceneDocument.h"
 #include "geometry/M3Ops.h"
 #include "qt/QtCanvas.h"
 #include "render/KorvanOpsConsts.h"
@@ -70,9 +71,9 @@ TEST(SceneImage, IsometricViewOfPrismsGridAxesAndWorkplane) {
     SceneDocument document = smallScene();
     ViewportRenderer renderer;
     RecordingCanvas recorded(width, height);
-    renderer.redrawViewport(recorded, isometric(), document);
+    renderer.redrawViewport(recorded, isometric(), document.scene());
     QtCanvas canvas(width, height);
-    renderer.redrawViewport(canvas, isometric(), document);
+    renderer.redrawViewport(canvas, isometric(), document.scene());
     const QImage& image = canvas.image();
 
     // Kept for a person to look at: build/default/tests/artifacts/scene-isometric.png.
@@ -125,7 +126,7 @@ TEST(SceneImage, NothingBehindTheEyeIsDrawn) {
     ViewportRenderer renderer;
     QtCanvas a(400, 300);
     QtCanvas b(400, 300);
-    renderer.redrawViewport(a, isometric(), plain);
-    renderer.redrawViewport(b, isometric(), withHidden);
+    renderer.redrawViewport(a, isometric(), plain.scene());
+    renderer.redrawViewport(b, isometric(), withHidden.scene());
     EXPECT_EQ(a.image(), b.image());
 }

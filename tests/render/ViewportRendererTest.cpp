@@ -1,5 +1,6 @@
 #include "render/ViewportRenderer.h"
 
+#include "app/SceneDocument.h"
 #include "render/KorvanOpsConsts.h"
 #include "scene/Transformed3d.h"
 #include "support/RecordingCanvas.h"
@@ -47,7 +48,7 @@ TEST(ViewportRenderer, DisplayModesDecideCullingAndFilling) {
         view.wireFrame = mode.wireFrame;
         RecordingCanvas canvas(400, 300);
         ViewportRenderer renderer;
-        renderer.redrawViewport(canvas, view, document);
+        renderer.redrawViewport(canvas, view, document.scene());
         const auto polygons = canvas.polygons();
         ASSERT_EQ(polygons.size(), mode.polygons) << mode.hideSurfaces << mode.wireFrame;
         for (const auto& polygon : polygons) {
@@ -61,7 +62,7 @@ TEST(ViewportRenderer, EmptyDocumentShowsGridAndBothAxesGlyphs) {
     SceneDocument document = SceneDocument::startUp();
     RecordingCanvas canvas(400, 300);
     ViewportRenderer renderer;
-    renderer.redrawViewport(canvas, isometric(), document);
+    renderer.redrawViewport(canvas, isometric(), document.scene());
     ASSERT_FALSE(canvas.calls().empty());
     EXPECT_EQ(canvas.calls().front().kind, Kind::Clear);
     size_t texts = 0;
@@ -82,7 +83,7 @@ TEST(ViewportRenderer, EmptyDocumentShowsGridAndBothAxesGlyphs) {
     ViewSpecs below = isometric();
     below.EyePhi = -0.3f;
     canvas.forget();
-    renderer.redrawViewport(canvas, below, document);
+    renderer.redrawViewport(canvas, below, document.scene());
     EXPECT_TRUE(canvas.polygons().empty());
 }
 
@@ -97,8 +98,8 @@ TEST(ViewportRenderer, ObjectsPaintFarthestFirstAndSelectionForcesColour) {
     ViewportRenderer renderer;
     ViewSpecs view = isometric();
     view.zoom = 50; // both cubes wholly on the canvas
-    renderer.redrawViewport(canvas, view, document);
-    EXPECT_EQ(renderer.sortSolidsByDepth(document),
+    renderer.redrawViewport(canvas, view, document.scene());
+    EXPECT_EQ(renderer.sortSolidsByDepth(document.solids),
               (std::vector<std::shared_ptr<Transformed3d>>{far, near}));
     const auto polygons = canvas.polygons();
     ASSERT_EQ(polygons.size(), 6u);

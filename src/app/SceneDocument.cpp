@@ -1,4 +1,4 @@
-#include "render/SceneDocument.h"
+#include "app/SceneDocument.h"
 
 #include "scene/AxesXYZ.h"
 #include "scene/GridSolid3D.h"
@@ -16,4 +16,11 @@ SceneDocument SceneDocument::startUp() {
     document.referenceAxes = std::make_shared<AxesXYZ>();
     document.zeroAxes = std::make_shared<AxesXYZ>();
     return document;
+}
+
+ViewportScene SceneDocument::scene() const {
+    return ViewportScene{solids,       light_sources,       workPlanes,     profiles,
+                         grid.get(),   referenceAxes.get(), zeroAxes.get(), showGrid,
+                         showZeroAxes, showReferenceAxes,   profileRed,     profileGreen,
+                         profileBlue};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/LightSource.h"
+#include "render/ViewportScene.h"
 
 #include <memory>
 #include <vector>
@@ -11,14 +12,15 @@ class Profile;
 class Transformed3d;
 class WorkPlane;
 
-// What a viewport shows: the scene objects, lights, workplanes and profiles with the grid,
-// the two axes glyphs and the display switches. The editor's main window owns one; the
-// command-line tool builds one from a file.
+// The open document: the scene objects, lights, workplanes and profiles, the profile being
+// drawn, the grid, the two axes glyphs and the display switches. The editor's main window
+// owns one; the command-line tool builds one from a file.
 struct SceneDocument {
     std::vector<std::shared_ptr<Transformed3d>> solids;
     LightList light_sources;
     std::vector<std::shared_ptr<WorkPlane>> workPlanes;
     std::vector<std::shared_ptr<Profile>> profiles;
+    std::shared_ptr<Profile> currentProfile;
     std::shared_ptr<GridSolid3D> grid;
     std::shared_ptr<AxesXYZ> referenceAxes;
     std::shared_ptr<AxesXYZ> zeroAxes;
@@ -32,4 +34,7 @@ struct SceneDocument {
     // The document as the editor starts: no objects, four white lights, the 20 x 20 grid
     // and both axes glyphs, every switch on.
     static SceneDocument startUp();
+
+    // What a viewport redraw paints of it; valid while the document lives.
+    ViewportScene scene() const;
 };

@@ -1,0 +1,91 @@
+#include "app/SelectionState.h"
+
+#include "interaction/TreeDisplayNode.h"
+#include "platform/Prompts.h"
+#include "scene/Face3d.h"
+#include "scene/Profile.h"
+#include "scene/Transformed3d.h"
+#include "scene/WorkPlane.h"
+
+#include <string>
+
+namespace {
+
+constexpr int32_t white = 16777215;
+
+// Clears the items' selected flags and the collection.
+template <class Item> void deselect(std::vector<std::shared_ptr<Item>>& items) {
+    for (const auto& item : items) {
+        item->setSelected(false);
+    }
+    items = {};
+}
+
+// Takes several items from one click only when the user keeps them.
+template <class Item>
+void keepIfWanted(std::vector<std::shared_ptr<Item>>& selection,
+                  const std::vector<std::shared_ptr<Item>>& hits, const std::string& question) {
+    if (hits.size() >= 2 &&
+        activePrompts().messageBox(question, "Multiple face selection", MessageIcon::None,
+                                   MessageButtons::YesNo) != MessageAnswer::Yes) {
+        for (const auto& item : hits) {
+            item->setSelected(false);
+        }
+        return;
+    }
+    selection = hits;
+}
+
+} // namespace
+
+void SelectionState::setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>& faces) {
+    keepIfWanted(selectedFaces, faces,
+                 "The face selector has selected more than one face.  Do you want to keep them "
+                 "both?  No will undo new selection.");
+}
+
+void SelectionState::setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
+    keepIfWanted(selectedSolids, solids,
+                 "The solid selector has selected more than one solid.  Do you want to keep "
+                 "them both?  No will undo new selection.");
+}
+
+void SelectionState::resetSelectSolids() {
+    deselect(selectedSolids);
+}
+
+void SelectionState::resetSelectFaces() {
+    deselect(selectedFaces);
+}
+
+void SelectionState::resetSelectWorkplanes() {
+    deselect(selectedWorkplanes);
+}
+
+void SelectionState::resetSelectProfiles() {
+    deselect(selectedProfiles);
+}
+
+void SelectionState::resetSelectNodes() {
+    // A node removed from the tree since is painted all the same; nobody sees it.
+    for (const auto& node : selectNodes) {
+        node->setBackColor(white);
+    }
+    selectNodes = {};
+}
+
+void SelectionState::resetAllSelect() {
+    resetSelectSolids();
+    resetSelectFaces();
+    resetSelectWorkplanes();
+    resetSelectNodes();
+    resetSelectProfiles();
+}
+
+void SelectionState::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) {
+    if (!node) {
+        return; // the tree lacks the hit's node; the hit stays selected all the same
+    }
+    node->setBackColor(color);
+    selectNodes.push_back(node);
+}

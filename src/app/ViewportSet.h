@@ -1,0 +1,62 @@
+#pragma once
+
+#include "render/ViewSpecs.h"
+#include "render/ViewportRenderer.h"
+#include "render/viewInfo.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+class Canvas;
+struct ViewportScene;
+
+// Where the window puts a control: its rectangle in the client area.
+struct ControlPlacement {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    bool operator==(const ControlPlacement&) const = default;
+};
+
+// The four viewports: their canvases picOrtho(0) to picOrtho(3), the view record of each
+// (viewSpecs(i + 1) belongs to picOrtho(i)), their layout beside the scene tree, and their
+// redraw.
+class ViewportSet {
+public:
+    // Records 1 to 4: top, side, front and isometric, all in perspective.
+    ViewportSet();
+
+    void attachCanvases(const std::array<Canvas*, 4>& canvases) { picOrtho = canvases; }
+    // Canvas picOrtho(index), or nullptr for an index outside 0 to 3 or before attaching.
+    Canvas* canvas(int index) const;
+    // Record number 1 to 4.
+    ViewSpecs& viewSpecs(int number) { return records[static_cast<size_t>(number - 1)]; }
+    const ViewSpecs& viewSpecs(int number) const {
+        return records[static_cast<size_t>(number - 1)];
+    }
+    // A copy of record index for index 1 to 4, nothing otherwise.
+    std::optional<viewInfo> getViewInfo(int32_t index) const;
+
+    // 1: the fourth viewport alone; 4: all four in a 2 x 2 grid.
+    int32_t viewportLayout = 1;
+    void setClientSize(int width, int height);
+    // Places the canvases in four fifths of the client width and the tree in the last fifth.
+    void layoutViewports();
+    const ControlPlacement& getTreePlacement() const { return treePlacement; }
+
+    // Paints every viewport, hidden ones too; drawOverlay adds the mouse mode's overlay to a
+    // canvas before it is shown.
+    void redrawAll(const ViewportScene& scene,
+                   const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay);
+
+private:
+    std::array<ViewSpecs, 4> records;
+    std::array<Canvas*, 4> picOrtho{};
+    int clientWidth = 0;
+    int clientHeight = 0;
+    ControlPlacement treePlacement;
+    ViewportRenderer renderer;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/ModalHost.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+class ModalDialog;
+
+// A modal host in which a test plays the user: for each dialog to be shown it queues the
+// steps the user takes inside it, naming the controls. Showing a dialog runs the next
+// script; a dialog still open when its script ends throws std::logic_error, since a real
+// modal dialog would wait for ever.
+class ScriptedModalHost : public ModalHost {
+public:
+    using Step = std::function<void(ModalDialog&)>;
+
+    static Step type(const std::string& textBox, const std::string& text);
+    static Step check(const std::string& checkBox, bool value);
+    static Step choose(const std::string& option);
+    static Step pick(const std::string& list, int ListIndex);
+    static Step scroll(const std::string& scrollBar, int value);
+    static Step press(const std::string& button);
+
+    void queueDialog(std::vector<Step> steps) { scripts_.push_back(std::move(steps)); }
+    // The captions of the dialogs shown, in order.
+    const std::vector<std::string>& shown() const { return shown_; }
+
+    void showModal(ModalDialog& dialog) override;
+
+private:
+    std::deque<std::vector<Step>> scripts_;
+    std::vector<std::string> shown_;
+};
