@@ -2,8 +2,10 @@
 
 #include "geometry/Arctan.h"
 #include "geometry/M3Ops.h"
+#include "geometry/Pi.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
+#include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
 #include "render/Shading.h"
 #include "scene/Solid3d.h"
@@ -12,9 +14,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double pi = 3.14159265358979;
-constexpr double twoPi = 6.28318530717958;
 
 // Where two canvas edges cross, and each edge's depth there.
 bool intersectEdges(const Point4& a1, const Point4& a2, const Point4& b1, const Point4& b2,
@@ -305,7 +304,7 @@ bool Face3d::PointInside(float x, float y) const {
         const Point4& t = record(corner).trans;
         double a = Arctan::ArcTan(t.y - y, t.x - x, true);
         if (a < 0) {
-            a = a + twoPi;
+            a = a + Pi::twoPi14;
         }
         return a;
     };
@@ -314,11 +313,11 @@ bool Face3d::PointInside(float x, float y) const {
     for (int corner = 1; corner <= NumPts; ++corner) {
         const double a = angleTo(corner);
         double d = a - previous;
-        if (d > pi) {
-            d = d - twoPi;
+        if (d > Pi::pi14) {
+            d = d - Pi::twoPi14;
         }
-        if (d < -pi) {
-            d = d + twoPi;
+        if (d < -Pi::pi14) {
+            d = d + Pi::twoPi14;
         }
         sum = sum + d;
         previous = a;
@@ -337,10 +336,7 @@ std::vector<CanvasPoint> Face3d::canvasPoints() const {
 
 void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
                    bool wireFrame) const {
-    const int savedFillStyle = pic.fillStyle();
-    const int savedDrawStyle = pic.drawStyle();
-    const int32_t savedForeColor = pic.foreColor();
-    const int32_t savedFillColor = pic.fillColor();
+    const CanvasStateGuard guard(pic);
     pic.setFillColor(color);
     if (wireFrame) {
         pic.setFillStyle(FillTransparent);
@@ -348,10 +344,6 @@ void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t 
         pic.setForeColor(pic.fillColor());
     }
     pic.polygon(points);
-    pic.setFillColor(savedFillColor);
-    pic.setForeColor(savedForeColor);
-    pic.setFillStyle(savedFillStyle);
-    pic.setDrawStyle(savedDrawStyle);
 }
 
 namespace {

@@ -2,14 +2,14 @@
 
 #include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
+#include "geometry/PackedColor.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
 #include "platform/Prompts.h"
+#include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
-#include "render/KorvanOpsConsts.h"
 #include "scene/Solid3d.h"
 
-#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -63,20 +63,12 @@ void WorkPlane::draw(Canvas& pic, int fillStyleMode, int selectedR, int selected
     }
     int32_t c = color;
     if (selected) {
-        int red;
-        int green;
-        int blue;
-        KorvanOpsConsts::splitColor(c, red, green, blue);
-        red = std::clamp(red + selectedR, 0, 255);
-        green = std::clamp(green + selectedG, 0, 255);
-        blue = std::clamp(blue + selectedB, 0, 255);
-        c = red + 256 * green + 65536 * blue;
+        const PackedColor plain = PackedColor::split(c);
+        c = PackedColor::pack(plain.red + selectedR, plain.green + selectedG,
+                              plain.blue + selectedB);
     }
 
-    const int oldDrawStyle = pic.drawStyle();
-    const int oldFillStyle = pic.fillStyle();
-    const int32_t oldForeColor = pic.foreColor();
-    const int32_t oldFillColor = pic.fillColor();
+    const CanvasStateGuard guard(pic);
     pic.setFillStyle(fillStyleMode);
     pic.setFillColor(c);
     pic.setForeColor(c);
@@ -95,11 +87,6 @@ void WorkPlane::draw(Canvas& pic, int fillStyleMode, int selectedR, int selected
     pic.polygon(corners);
 
     solid->resetTransformedPoints();
-
-    pic.setFillStyle(oldFillStyle);
-    pic.setForeColor(oldForeColor);
-    pic.setFillColor(oldFillColor);
-    pic.setDrawStyle(oldDrawStyle);
 }
 
 std::shared_ptr<GDIRegion> WorkPlane::createRegion() const {
