@@ -46,9 +46,17 @@ void WorkPlane::initialize(float workPlaneSize, float xRotate, float yRotate, fl
 }
 
 void WorkPlane::ApplyFull(const Matrix4& M) {
-    if (visible) {
-        solid->ApplyFull(M, false);
+    if (!visible || !hasGeometry()) {
+        return;
     }
+    // A workplane is never back-face culled, so its transform is where each viewport starts:
+    // the clipping and the cache another viewport left must not keep the face from moving.
+    solid->Culled(false);
+    solid->ApplyFull(M, false);
+    // The centre belongs to no face, so the face's transform does not reach it.
+    PointRecord centre = solid->getPointRecord(5);
+    M3Ops::transformPoint(centre.coord, M, centre.trans);
+    solid->setPointRecord(5, centre);
 }
 
 void WorkPlane::clipEye(float eyeR) {
