@@ -91,3 +91,50 @@ TEST(Face3d, RegionsRoundCornersHalfToEven) {
     EXPECT_EQ(points[2].x, 0);
     EXPECT_EQ(points[2].y, 0);
 }
+
+TEST(Face3d, AFaceThatOutlivesItsSolidDoesNothingAndReadsAsEmpty) {
+    Solid3d live;
+    live.addPointsArray(std::vector<float>{0, 0, 0, 40, 0, 0, 0, 40, 0});
+    auto other = live.AddFace(std::vector<int32_t>{1, 2, 3});
+    live.Apply(canvasLayout());
+
+    auto solid = std::make_shared<Solid3d>();
+    solid->addPointsArray(std::vector<float>{0, 0, 1, 40, 0, 1, 0, 40, 1});
+    std::shared_ptr<Face3d> face = solid->AddFace(std::vector<int32_t>{1, 2, 3});
+    solid->Apply(canvasLayout());
+    solid.reset(); // a selection still holds the face
+    ASSERT_EQ(face->getSolidContainer(), nullptr);
+    EXPECT_EQ(face->NumPts, 3);
+
+    float x = 1, y = 1, z = 1;
+    face->GetTransformedPoint(1, x, y, z);
+    EXPECT_EQ(x, 0.0f);
+    float xmin, xmax, ymin, ymax, zmin, zmax;
+    face->GetExtent(xmin, xmax, ymin, ymax, zmin, zmax);
+    EXPECT_EQ(xmax, 0.0f);
+    face->UnitNormalVector(x, y, z);
+    EXPECT_EQ(z, 0.0f);
+    float Rmin, Rmax;
+    face->getRMinRMax(0, 0, 10, Rmin, Rmax);
+    EXPECT_EQ(Rmin, 1e30f);
+    face->ApplyFull(canvasLayout(2), false);
+    face->ApplyCoord(canvasLayout(2));
+    face->clipEye(0);
+    EXPECT_FALSE(face->IsCulled);
+    EXPECT_EQ(face->zmax(), -1e30f);
+
+    EXPECT_FALSE(face->PointInside(10, 10));
+    EXPECT_FALSE(face->Obscures(*other));
+    EXPECT_FALSE(other->Obscures(*face));
+    EXPECT_TRUE(face->IsAbove(*other));
+    EXPECT_TRUE(other->IsBelow(*face));
+
+    RecordingCanvas canvas(100, 100);
+    face->DrawNoForceColor(canvas, LightList{}, 0, 0, 0, 10, false, false);
+    face->DrawForceColor(canvas, LightList{}, 0, 0, 0, 10, false, 1, 2, 3, false);
+    EXPECT_TRUE(canvas.calls().empty());
+    EXPECT_FALSE(face->createRegion(GDIRegion::WindingFill)->inRegion(10, 10));
+
+    face->cull(0, 0, 10);
+    EXPECT_TRUE(face->IsCulled);
+}
