@@ -10,3 +10,13 @@ TEST(PackedColor, PackClampsEachChannelOnItsOwn) {
     EXPECT_EQ(PackedColor::pack(0, 300, 0), 255 * 256);
     EXPECT_EQ(PackedColor::pack(0, 0, -300), 0);
 }
+
+TEST(PackedColor, SplitIgnoresTheTopByte) {
+    const PackedColor orange = PackedColor::split(16744512);
+    EXPECT_EQ(orange.red, 64);
+    EXPECT_EQ(orange.green, 128);
+    EXPECT_EQ(orange.blue, 255);
+    const PackedColor flagged = PackedColor::split(0x7F0000FF);
+    EXPECT_EQ(flagged.red, 255);
+    EXPECT_EQ(flagged.blue, 0);
+}
