@@ -3,6 +3,7 @@
 #include "app/SceneDocument.h"
 #include "app/SelectionState.h"
 #include "geometry/M3Ops.h"
+#include "geometry/Pi.h"
 #include "geometry/Vector3D.h"
 #include "platform/Prompts.h"
 #include "scene/Profile.h"
@@ -25,11 +26,11 @@ void ProfileCommands::addProfilePoint(PointRecord r) {
         return;
     }
     // The workplane lies offset along its normal; its points are moved by that vector.
-    constexpr double pi = 3.14159265358979;
     const WorkPlane& wp = *workPlanes.front();
     Vector3D offset;
-    offset.initializeAmpThetaPhi(wp.getOffset(), static_cast<float>(wp.getYRotation() + pi / 2),
-                                 static_cast<float>(wp.getXRotation() + pi));
+    offset.initializeAmpThetaPhi(wp.getOffset(),
+                                 static_cast<float>(wp.getYRotation() + Pi::pi14 / 2),
+                                 static_cast<float>(wp.getXRotation() + Pi::pi14));
     Matrix4 shift;
     M3Ops::setTranslation(shift, offset.getX(), offset.getY(), offset.getZ());
     r.trans = Point4{};

@@ -1,14 +1,13 @@
 #include "app/frmSplash.h"
 
 #include "geometry/M3Ops.h"
+#include "geometry/Pi.h"
 #include "render/LightRanges.h"
 
 #include <algorithm>
-#include <numbers>
 
 namespace {
 
-constexpr float pi = std::numbers::pi_v<float>;
 constexpr int minimumCanvasSide = 120;
 constexpr int32_t textColor = 16776960; // cyan
 constexpr int16_t ambientLight = 50;    // the main window's level
@@ -42,8 +41,8 @@ void frmSplash::Form_Load(Canvas& picCanvas, const Bitmap& logo, uint32_t now) {
     picCanvas_ = &picCanvas;
     picLogo_ = logo;
     r_ = 10;
-    theta_ = 2 * pi / 10;
-    phi_ = pi / 10;
+    theta_ = 2 * Pi::single / 10;
+    phi_ = Pi::single / 10;
     buildViewMatrix();
     lastStep_ = now;
 
@@ -67,7 +66,7 @@ void frmSplash::tick(uint32_t now) {
     }
     // Unsigned difference: still right when the tick count wraps around.
     if (now - lastStep_ > cameraStepInterval) {
-        theta_ += pi / 60;
+        theta_ += Pi::single / 60;
         buildViewMatrix();
         lastStep_ = now;
     }

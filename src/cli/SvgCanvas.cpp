@@ -1,5 +1,7 @@
 #include "cli/SvgCanvas.h"
 
+#include "geometry/PackedColor.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -8,8 +10,8 @@ namespace {
 
 std::string hexDigits(int32_t color) {
     char text[8];
-    std::snprintf(text, sizeof text, "%02x%02x%02x", color & 0xFF, (color >> 8) & 0xFF,
-                  (color >> 16) & 0xFF);
+    const PackedColor c = PackedColor::split(color);
+    std::snprintf(text, sizeof text, "%02x%02x%02x", c.red, c.green, c.blue);
     return text;
 }
 

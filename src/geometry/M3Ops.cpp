@@ -1,12 +1,10 @@
 #include "geometry/M3Ops.h"
 
+#include "geometry/Pi.h"
+
 #include <cmath>
 
 namespace M3Ops {
-
-namespace {
-constexpr double pi = 3.14159265358979;
-}
 
 void setIdentity(Matrix4& M) {
     M = Matrix4{};
@@ -40,7 +38,7 @@ void setRotationX(Matrix4& M, float angle) {
 }
 
 void setRotationY(Matrix4& M, float angle) {
-    const auto quarter = static_cast<float>(pi / 2);
+    const auto quarter = static_cast<float>(Pi::pi14 / 2);
     auto c = static_cast<float>(std::cos(angle));
     const auto s = static_cast<float>(std::sin(angle));
     if (angle == quarter || angle == -quarter) {

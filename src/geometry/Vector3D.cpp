@@ -3,12 +3,12 @@
 #include "geometry/ArithmeticError.h"
 #include "geometry/CheckedMath.h"
 #include "geometry/NumberText.h"
+#include "geometry/Pi.h"
 #include "geometry/RootMod.h"
 #include "geometry/TrigFunctions.h"
 #include "platform/Prompts.h"
 
 #include <cmath>
-#include <numbers>
 
 using CheckedMath::divide;
 using CheckedMath::toSingle;
@@ -163,7 +163,7 @@ void Vector3D::cartesianToSpherical(float x, float y, float z) {
             // x/t is 1 or -1 (or beyond, by rounding), where the arccosine formula breaks
             // down; near the x axis the arcsine of z/t is well defined instead.
             const float sine = ArcSin(toSingle(divide(z, t)));
-            theta = x > 0 ? sine : static_cast<float>(std::numbers::pi - sine);
+            theta = x > 0 ? sine : static_cast<float>(Pi::full - sine);
         }
     } catch (const ArithmeticError&) {
         showMessage("3D Vector Cartesian->Spherical uncalculatable!", "Vector3D Convertion Error",

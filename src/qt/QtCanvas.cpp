@@ -1,5 +1,7 @@
 #include "qt/QtCanvas.h"
 
+#include "geometry/PackedColor.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPoint>
@@ -11,7 +13,8 @@
 namespace {
 
 QColor toQColor(int32_t color) {
-    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    const PackedColor c = PackedColor::split(color);
+    return QColor(c.red, c.green, c.blue);
 }
 
 Qt::PenStyle penStyle(int drawStyle) {

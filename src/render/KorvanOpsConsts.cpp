@@ -1,23 +1,21 @@
 #include "render/KorvanOpsConsts.h"
 
 #include "geometry/M3Ops.h"
+#include "geometry/PackedColor.h"
+#include "geometry/Pi.h"
 #include "platform/Canvas.h"
 #include "platform/Prompts.h"
 
 namespace KorvanOpsConsts {
 
-namespace {
-constexpr double pi = 3.14159265358979;
-}
-
 void setOrthoView(int viewConst, ViewSpecs& view) {
     switch (viewConst) {
     case viewTop:
         view.EyeTheta = 0;
-        view.EyePhi = static_cast<float>(pi / 2);
+        view.EyePhi = static_cast<float>(Pi::pi14 / 2);
         break;
     case viewFront:
-        view.EyeTheta = static_cast<float>(pi / 2);
+        view.EyeTheta = static_cast<float>(Pi::pi14 / 2);
         view.EyePhi = 0;
         break;
     case viewSide:
@@ -67,10 +65,10 @@ void getEyePosition(const ViewSpecs& view, float& x, float& y, float& z) {
 }
 
 void splitColor(int32_t color, int& red, int& green, int& blue) {
-    const auto bits = static_cast<uint32_t>(color);
-    red = static_cast<int>(bits % 256);
-    green = static_cast<int>((bits / 256) % 256);
-    blue = static_cast<int>((bits / 65536) % 256);
+    const PackedColor channels = PackedColor::split(color);
+    red = channels.red;
+    green = channels.green;
+    blue = channels.blue;
 }
 
 int toCheckValue(bool flag) {

@@ -1,9 +1,9 @@
 #include "render/Shading.h"
 
+#include "geometry/PackedColor.h"
 #include "geometry/RootMod.h"
 #include "geometry/Rounding.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Shading {
@@ -57,16 +57,11 @@ void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, con
             static_cast<float>(static_cast<double>(rx) * vx + static_cast<double>(ry) * vy +
                                static_cast<double>(rz) * vz);
         const double specular = static_cast<double>(RootMod::SngRoot(rv, s.SpecularN)) *
-                            static_cast<double>(s.SpecularK);
+                                static_cast<double>(s.SpecularK);
         c.red = Rounding::toInt32(c.red + light->Ir * specular);
         c.green = Rounding::toInt32(c.green + light->Ig * specular);
         c.blue = Rounding::toInt32(c.blue + light->Ib * specular);
     }
-}
-
-int32_t clampAndPack(Channels c) {
-    const auto clamp = [](int32_t v) { return std::max(std::min(v, 255), 0); };
-    return clamp(c.red) + 256 * clamp(c.green) + 65536 * clamp(c.blue);
 }
 
 } // namespace
@@ -75,7 +70,7 @@ int32_t shadeColor(const ShadedSurface& surface, const LightList& lights, const 
                    bool useShift) {
     Channels c{0, 0, 0};
     addLights(c, surface, lights, eye, useShift);
-    return clampAndPack(c);
+    return PackedColor::pack(c.red, c.green, c.blue);
 }
 
 int32_t shadeForcedColor(const ShadedSurface& surface, const LightList& lights,
@@ -86,7 +81,7 @@ int32_t shadeForcedColor(const ShadedSurface& surface, const LightList& lights,
     c.red = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKr) + c.red);
     c.green = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKg) + c.green);
     c.blue = Rounding::toInt32(ambient_light * static_cast<double>(surface.AmbientKb) + c.blue);
-    return clampAndPack(c);
+    return PackedColor::pack(c.red, c.green, c.blue);
 }
 
 } // namespace Shading

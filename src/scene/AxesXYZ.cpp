@@ -3,6 +3,7 @@
 #include "geometry/M3Ops.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
+#include "render/CanvasStateGuard.h"
 
 #include <array>
 
@@ -39,8 +40,7 @@ void AxesXYZ::draw(Canvas& pic, float EyeR, float EyeTheta, float EyePhi, int Pr
                                            Rounding::toInt32(record.trans.y)};
     }
 
-    const int savedDrawStyle = pic.drawStyle();
-    const int32_t savedForeColor = pic.foreColor();
+    const CanvasStateGuard guard(pic);
     pic.setDrawStyle(DrawSolid);
     pic.setForeColor(16777215);
     const char* const labels[] = {"X", "Y", "Z"};
@@ -49,6 +49,4 @@ void AxesXYZ::draw(Canvas& pic, float EyeR, float EyeTheta, float EyePhi, int Pr
         pic.lineTo(pts[tip].x, pts[tip].y);
         pic.textOut(pts[tip].x, pts[tip].y, labels[tip - 1]);
     }
-    pic.setDrawStyle(savedDrawStyle);
-    pic.setForeColor(savedForeColor);
 }

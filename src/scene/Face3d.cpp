@@ -2,8 +2,10 @@
 
 #include "geometry/Arctan.h"
 #include "geometry/M3Ops.h"
+#include "geometry/Pi.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
+#include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
 #include "render/Shading.h"
 #include "scene/Solid3d.h"
@@ -12,9 +14,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double pi = 3.14159265358979;
-constexpr double twoPi = 6.28318530717958;
 
 // Where two canvas edges cross, and each edge's depth there.
 bool intersectEdges(const Point4& a1, const Point4& a2, const Point4& b1, const Point4& b2,
@@ -79,6 +78,10 @@ const PointRecord& Face3d::record(int corner) const {
 }
 
 void Face3d::GetTransformedPoint(int corner, float& x, float& y, float& z) const {
+    if (solid_ == nullptr) {
+        x = y = z = 0;
+        return;
+    }
     const Point4& t = record(corner).trans;
     x = t.x;
     y = t.y;
@@ -88,7 +91,7 @@ void Face3d::GetTransformedPoint(int corner, float& x, float& y, float& z) const
 void Face3d::GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float& Zmin,
                        float& zmax) const {
     Xmin = xmax = ymin = ymax = Zmin = zmax = 0;
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& t = record(corner).trans;
         if (corner == 1) {
             Xmin = xmax = t.x;
@@ -107,14 +110,14 @@ void Face3d::GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float
 
 void Face3d::NormalVector(float& x, float& y, float& z) const {
     x = y = z = 0;
-    if (NumPts >= 3) {
+    if (cornerCount() >= 3) {
         normalOf(record(1).coord, record(2).coord, record(3).coord, x, y, z);
     }
 }
 
 void Face3d::TransformedNormalVector(float& x, float& y, float& z) const {
     x = y = z = 0;
-    if (NumPts >= 3) {
+    if (cornerCount() >= 3) {
         normalOf(record(1).trans, record(2).trans, record(3).trans, x, y, z);
     }
 }
@@ -123,6 +126,9 @@ void Face3d::UnitNormalVector(float& x, float& y, float& z) const {
     NormalVector(x, y, z);
     const auto length = static_cast<float>(std::sqrt(
         static_cast<double>(x) * x + static_cast<double>(y) * y + static_cast<double>(z) * z));
+    if (!(length > 0)) {
+        return; // no direction to scale to: the zero normal stands
+    }
     x = x / length;
     y = y / length;
     z = z / length;
@@ -132,12 +138,12 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
                          float& Rmax) const {
     Rmin = 1e30f;
     Rmax = -1e30f;
-    if (IsCulled || NumPts < 3) {
+    if (IsCulled || cornerCount() < 3) {
         return;
     }
     double smallest = 1e300;
     double largest = -1e300;
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& c = record(corner).coord;
         const double dx = c.x - light_x;
         const double dy = c.y - light_y;
@@ -155,14 +161,14 @@ float Face3d::zmax() const {
         return 0;
     }
     float result = -1e30f;
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         result = std::max(result, record(corner).trans.z);
     }
     return result;
 }
 
 template <class Step> void Face3d::transformCorners(Step step) {
-    if (IsCulled) {
+    if (IsCulled || solid_ == nullptr) {
         return;
     }
     Solid3d& solid = *solid_;
@@ -208,7 +214,7 @@ void Face3d::cull(float eye_x, float eye_y, float eye_z) {
     float ny;
     float nz;
     NormalVector(nx, ny, nz);
-    if (NumPts < 1) {
+    if (cornerCount() < 1) {
         IsCulled = true;
         return;
     }
@@ -224,7 +230,7 @@ void Face3d::clipEye(float eyeR) {
     if (IsCulled) {
         return;
     }
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         if (record(corner).trans.z >= eyeR) {
             IsCulled = true;
             return;
@@ -242,11 +248,11 @@ bool Face3d::isOnSideOf(const Face3d& other, bool towardsViewer) const {
         ny = -ny;
         nz = -nz;
     }
-    if (other.NumPts < 1) {
+    if (other.cornerCount() < 1) {
         return true;
     }
     const Point4& o = other.record(1).trans;
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& v = record(corner).trans;
         const auto s = static_cast<float>(static_cast<double>(v.x - o.x) * nx +
                                           static_cast<double>(v.y - o.y) * ny +
@@ -267,14 +273,14 @@ bool Face3d::IsBelow(const Face3d& other) const {
 }
 
 bool Face3d::Obscures(const Face3d& other) const {
-    if (NumPts < 1 || other.NumPts < 1) {
+    if (cornerCount() < 1 || other.cornerCount() < 1) {
         return false;
     }
-    for (int i = 1; i <= NumPts; ++i) {
-        const Point4& a1 = record(i == 1 ? NumPts : i - 1).trans;
+    for (int i = 1; i <= cornerCount(); ++i) {
+        const Point4& a1 = record(i == 1 ? cornerCount() : i - 1).trans;
         const Point4& a2 = record(i).trans;
-        for (int j = 1; j <= other.NumPts; ++j) {
-            const Point4& b1 = other.record(j == 1 ? other.NumPts : j - 1).trans;
+        for (int j = 1; j <= other.cornerCount(); ++j) {
+            const Point4& b1 = other.record(j == 1 ? other.cornerCount() : j - 1).trans;
             const Point4& b2 = other.record(j).trans;
             float zThis;
             float zOther;
@@ -298,27 +304,27 @@ bool Face3d::Obscures(const Face3d& other) const {
 }
 
 bool Face3d::PointInside(float x, float y) const {
-    if (NumPts < 1) {
+    if (cornerCount() < 1) {
         return false;
     }
     const auto angleTo = [&](int corner) {
         const Point4& t = record(corner).trans;
         double a = Arctan::ArcTan(t.y - y, t.x - x, true);
         if (a < 0) {
-            a = a + twoPi;
+            a = a + Pi::twoPi14;
         }
         return a;
     };
-    double previous = angleTo(NumPts);
+    double previous = angleTo(cornerCount());
     double sum = 0;
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         const double a = angleTo(corner);
         double d = a - previous;
-        if (d > pi) {
-            d = d - twoPi;
+        if (d > Pi::pi14) {
+            d = d - Pi::twoPi14;
         }
-        if (d < -pi) {
-            d = d + twoPi;
+        if (d < -Pi::pi14) {
+            d = d + Pi::twoPi14;
         }
         sum = sum + d;
         previous = a;
@@ -327,8 +333,8 @@ bool Face3d::PointInside(float x, float y) const {
 }
 
 std::vector<CanvasPoint> Face3d::canvasPoints() const {
-    std::vector<CanvasPoint> points(static_cast<size_t>(NumPts));
-    for (int corner = 1; corner <= NumPts; ++corner) {
+    std::vector<CanvasPoint> points(static_cast<size_t>(cornerCount()));
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& t = record(corner).trans;
         points[static_cast<size_t>(corner - 1)] = {Rounding::toInt32(t.x), Rounding::toInt32(t.y)};
     }
@@ -337,10 +343,7 @@ std::vector<CanvasPoint> Face3d::canvasPoints() const {
 
 void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
                    bool wireFrame) const {
-    const int savedFillStyle = pic.fillStyle();
-    const int savedDrawStyle = pic.drawStyle();
-    const int32_t savedForeColor = pic.foreColor();
-    const int32_t savedFillColor = pic.fillColor();
+    const CanvasStateGuard guard(pic);
     pic.setFillColor(color);
     if (wireFrame) {
         pic.setFillStyle(FillTransparent);
@@ -348,10 +351,6 @@ void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t 
         pic.setForeColor(pic.fillColor());
     }
     pic.polygon(points);
-    pic.setFillColor(savedFillColor);
-    pic.setForeColor(savedForeColor);
-    pic.setFillStyle(savedFillStyle);
-    pic.setDrawStyle(savedDrawStyle);
 }
 
 namespace {
@@ -389,7 +388,7 @@ void Face3d::DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16
                               float eye_y, float eye_z, bool UseShift, bool wireFrame) {
     // ambient_light is accepted for symmetry with DrawForceColor: unforced shading adds no
     // ambient term.
-    if (IsCulled || NumPts < 3) {
+    if (IsCulled || cornerCount() < 3) {
         return;
     }
     const std::vector<CanvasPoint> points = canvasPoints();
@@ -404,7 +403,7 @@ void Face3d::DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16
 void Face3d::DrawForceColor(Canvas& pic, const LightList& light_sources, int16_t ambient_light,
                             float eye_x, float eye_y, float eye_z, bool UseShift, int FRed,
                             int FGreen, int FBlue, bool wireFrame) {
-    if (IsCulled || NumPts < 3) {
+    if (IsCulled || cornerCount() < 3) {
         return;
     }
     const std::vector<CanvasPoint> points = canvasPoints();

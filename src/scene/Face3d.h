@@ -16,6 +16,14 @@ struct PointRecord;
 // One planar polygon of a solid. It holds no coordinates: it lists 1-based indices into
 // its solid's point records in the order its corners are visited, and carries the
 // surface coefficients that shading uses. Corners are numbered 1 to NumPts.
+//
+// A face may outlive its solid (a selection, a dialog or a face/region pair still holds it
+// after the solid is gone). Such a face keeps its indices and coefficients, and its
+// geometry reads as that of a face without corners: transformed points, extent and
+// normals are 0, getRMinRMax leaves 1e30 and -1e30, zmax is -1e30 (0 once culled),
+// transformations and clipping do nothing, cull culls it, IsAbove and IsBelow hold
+// (no corner lies on the wrong side), Obscures and PointInside are false, drawing paints
+// nothing and createRegion gives a region that covers nothing.
 class Face3d {
 public:
     int32_t NumPts = 0;
@@ -37,7 +45,8 @@ public:
     // Reverses the corner order, which flips the normal.
     void switchIndexOrientation();
     const std::vector<int32_t>& getIndices() const { return indices_; }
-    // The solid whose points the indices refer to. The face does not own it.
+    // The solid whose points the indices refer to. The face does not own it; the solid
+    // clears it when it is destroyed.
     void setSolidContainer(Solid3d* solid) { solid_ = solid; }
     Solid3d* getSolidContainer() const { return solid_; }
     void setSelected(bool flag) { selected_ = flag; }
@@ -45,7 +54,8 @@ public:
     void setOrderNumber(int32_t number) { orderNumber_ = number; }
     int32_t getOrderNum() const { return orderNumber_; }
 
-    // Geometry. Faces with fewer than three corners have a zero normal.
+    // Geometry. Faces with fewer than three corners have a zero normal, and a zero normal
+    // has a zero unit normal.
     void GetTransformedPoint(int corner, float& x, float& y, float& z) const;
     void GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float& Zmin,
                    float& zmax) const;
@@ -85,6 +95,8 @@ public:
     std::shared_ptr<GDIRegion> createRegion(int fillmode) const;
 
 private:
+    // NumPts while the face has a solid to read its points from, else 0.
+    int32_t cornerCount() const { return solid_ != nullptr ? NumPts : 0; }
     const PointRecord& record(int corner) const;
     template <class Step> void transformCorners(Step step);
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;

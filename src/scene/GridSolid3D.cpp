@@ -1,5 +1,6 @@
 #include "scene/GridSolid3D.h"
 
+#include "geometry/Pi.h"
 #include "geometry/Rounding.h"
 
 #include <algorithm>
@@ -66,11 +67,10 @@ void GridSolid3D::draw(Canvas& pic, const LightList&, int16_t ambient_light, flo
 }
 
 bool GridSolid3D::SetColorShift(float width, float height, float increment) {
-    constexpr float pi = 3.14159265358979f;
     const int32_t cols = Rounding::toInt32(width / increment - 1.0f);
     const int32_t rows = Rounding::toInt32(height / increment - 1.0f);
-    const float stepA = pi / static_cast<float>(cols - 1);
-    const float stepB = pi / static_cast<float>(rows - 1);
+    const float stepA = Pi::single / static_cast<float>(cols - 1);
+    const float stepB = Pi::single / static_cast<float>(rows - 1);
     colorShift_.assign(static_cast<size_t>(std::max(rows, 0)), {});
     float b = 0;
     for (auto& row : colorShift_) {

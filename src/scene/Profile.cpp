@@ -2,20 +2,11 @@
 
 #include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
+#include "geometry/PackedColor.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
+#include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
-
-#include <algorithm>
-
-namespace {
-
-// Like the platform's RGB: channels above 255 count as 255.
-int32_t rgb(int red, int green, int blue) {
-    return std::min(red, 255) + 256 * std::min(green, 255) + 65536 * std::min(blue, 255);
-}
-
-} // namespace
 
 void Profile::addCPoint(const std::shared_ptr<CPoint3D>& point) {
     points.push_back(point);
@@ -36,15 +27,12 @@ void Profile::draw(Canvas& pic, int profileRed, int profileGreen, int profileBlu
     if (!visible) {
         return;
     }
-    const int oldFillStyle = pic.fillStyle();
-    const int oldDrawStyle = pic.drawStyle();
-    const int32_t oldForeColor = pic.foreColor();
-    const int32_t oldFillColor = pic.fillColor();
+    const CanvasStateGuard guard(pic);
     pic.setFillStyle(FillTransparent);
     pic.setDrawStyle(DrawSolid);
     // The selection colour, magenta, is added channel by channel.
-    pic.setForeColor(selected ? rgb(profileRed + 255, profileGreen, profileBlue + 255)
-                              : rgb(profileRed, profileGreen, profileBlue));
+    pic.setForeColor(selected ? PackedColor::pack(profileRed + 255, profileGreen, profileBlue + 255)
+                              : PackedColor::pack(profileRed, profileGreen, profileBlue));
 
     for (size_t i = 0; i < points.size(); ++i) {
         const Point4 p = points[i]->getRecord().trans;
@@ -56,11 +44,6 @@ void Profile::draw(Canvas& pic, int profileRed, int profileGreen, int profileBlu
             pic.lineTo(x, y);
         }
     }
-
-    pic.setFillColor(oldFillColor);
-    pic.setForeColor(oldForeColor);
-    pic.setFillStyle(oldFillStyle);
-    pic.setDrawStyle(oldDrawStyle);
 }
 
 std::shared_ptr<CPoint3D> Profile::getCPoint(int32_t index) const {

@@ -4,6 +4,7 @@
 #include "geometry/Rounding.h"
 #include "geometry/Vector3D.h"
 #include "platform/Canvas.h"
+#include "render/CanvasStateGuard.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/viewInfo.h"
 
@@ -26,9 +27,7 @@ void Vector3DDrawer::draw(Canvas& pic, const Vector3D* v, const viewInfo& view, 
         return;
     }
 
-    const int savedDrawStyle = pic.drawStyle();
-    const int32_t savedForeColor = pic.foreColor();
-    const int savedFillStyle = pic.fillStyle();
+    const CanvasStateGuard guard(pic);
     pic.setForeColor(vColor);
     pic.setDrawStyle(lineStyle);
     pic.setFillStyle(FillTransparent);
@@ -39,7 +38,4 @@ void Vector3DDrawer::draw(Canvas& pic, const Vector3D* v, const viewInfo& view, 
                  {corner(p0.x, 5.0f), corner(p0.y, -5.0f)},
                  {corner(p0.x, 5.0f), corner(p0.y, 5.0f)},
                  {corner(p0.x, -5.0f), corner(p0.y, 5.0f)}});
-    pic.setDrawStyle(savedDrawStyle);
-    pic.setForeColor(savedForeColor);
-    pic.setFillStyle(savedFillStyle);
 }

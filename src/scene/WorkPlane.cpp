@@ -2,14 +2,14 @@
 
 #include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
+#include "geometry/PackedColor.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
 #include "platform/Prompts.h"
+#include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
-#include "render/KorvanOpsConsts.h"
 #include "scene/Solid3d.h"
 
-#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -46,9 +46,17 @@ void WorkPlane::initialize(float workPlaneSize, float xRotate, float yRotate, fl
 }
 
 void WorkPlane::ApplyFull(const Matrix4& M) {
-    if (visible) {
-        solid->ApplyFull(M, false);
+    if (!visible || !hasGeometry()) {
+        return;
     }
+    // A workplane is never back-face culled, so its transform is where each viewport starts:
+    // the clipping and the cache another viewport left must not keep the face from moving.
+    solid->Culled(false);
+    solid->ApplyFull(M, false);
+    // The centre belongs to no face, so the face's transform does not reach it.
+    PointRecord centre = solid->getPointRecord(5);
+    M3Ops::transformPoint(centre.coord, M, centre.trans);
+    solid->setPointRecord(5, centre);
 }
 
 void WorkPlane::clipEye(float eyeR) {
@@ -63,20 +71,12 @@ void WorkPlane::draw(Canvas& pic, int fillStyleMode, int selectedR, int selected
     }
     int32_t c = color;
     if (selected) {
-        int red;
-        int green;
-        int blue;
-        KorvanOpsConsts::splitColor(c, red, green, blue);
-        red = std::clamp(red + selectedR, 0, 255);
-        green = std::clamp(green + selectedG, 0, 255);
-        blue = std::clamp(blue + selectedB, 0, 255);
-        c = red + 256 * green + 65536 * blue;
+        const PackedColor plain = PackedColor::split(c);
+        c = PackedColor::pack(plain.red + selectedR, plain.green + selectedG,
+                              plain.blue + selectedB);
     }
 
-    const int oldDrawStyle = pic.drawStyle();
-    const int oldFillStyle = pic.fillStyle();
-    const int32_t oldForeColor = pic.foreColor();
-    const int32_t oldFillColor = pic.fillColor();
+    const CanvasStateGuard guard(pic);
     pic.setFillStyle(fillStyleMode);
     pic.setFillColor(c);
     pic.setForeColor(c);
@@ -95,11 +95,6 @@ void WorkPlane::draw(Canvas& pic, int fillStyleMode, int selectedR, int selected
     pic.polygon(corners);
 
     solid->resetTransformedPoints();
-
-    pic.setFillStyle(oldFillStyle);
-    pic.setForeColor(oldForeColor);
-    pic.setFillColor(oldFillColor);
-    pic.setDrawStyle(oldDrawStyle);
 }
 
 std::shared_ptr<GDIRegion> WorkPlane::createRegion() const {

@@ -20,6 +20,7 @@ public:
 
     void initialize(float workPlaneSize, float xRotate, float yRotate, float workPlaneOffset,
                     int32_t workPlaneColor);
+    // Clears what the last viewport's clipping left, then projects all five points.
     void ApplyFull(const Matrix4& M);
     void clipEye(float eyeR);
     void draw(Canvas& pic, int fillStyleMode, int selectedR, int selectedG, int selectedB);

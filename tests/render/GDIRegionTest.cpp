@@ -39,8 +39,11 @@ int referenceWinding(const std::vector<CanvasPoint>& poly, int64_t x, int64_t y)
 
 TEST(GDIRegion, SquareCoversTopLeftInclusiveBottomRightExclusive) {
     const GDIRegion r = region(square, GDIRegion::WindingFill);
-    EXPECT_TRUE(r.inRegion(10, 10) && r.inRegion(49, 49));
-    EXPECT_FALSE(r.inRegion(9, 30) || r.inRegion(50, 30) || r.inRegion(30, 50));
+    EXPECT_TRUE(r.inRegion(10, 10));
+    EXPECT_TRUE(r.inRegion(49, 49));
+    EXPECT_FALSE(r.inRegion(9, 30));
+    EXPECT_FALSE(r.inRegion(50, 30));
+    EXPECT_FALSE(r.inRegion(30, 50));
     EXPECT_TRUE(r.rectInRegion({0, 0, 11, 11}));    // over the corner pixel
     EXPECT_FALSE(r.rectInRegion({0, 0, 10, 10}));   // just before it
     EXPECT_FALSE(r.rectInRegion({40, 40, 20, 20})); // inverted
@@ -52,8 +55,11 @@ TEST(GDIRegion, FillRulesOnSelfIntersectingPolygons) {
     const std::vector<CanvasPoint> pentagram{{100, 20}, {147, 165}, {24, 75}, {176, 75}, {53, 165}};
     for (int mode : {GDIRegion::AlternateFill, GDIRegion::WindingFill}) {
         const GDIRegion tie = region(bowTie, mode);
-        EXPECT_TRUE(tie.inRegion(5, 20) && tie.inRegion(35, 20));
-        EXPECT_FALSE(tie.inRegion(20, 5) || tie.inRegion(20, 35));
+        SCOPED_TRACE(mode);
+        EXPECT_TRUE(tie.inRegion(5, 20));
+        EXPECT_TRUE(tie.inRegion(35, 20));
+        EXPECT_FALSE(tie.inRegion(20, 5));
+        EXPECT_FALSE(tie.inRegion(20, 35));
         const GDIRegion star = region(pentagram, mode);
         EXPECT_TRUE(star.inRegion(100, 40)); // a point of the star
         EXPECT_FALSE(star.inRegion(30, 140));
@@ -76,8 +82,10 @@ TEST(GDIRegion, ReplacingThePolygonForgetsTheOldOneAndDegenerateOnesHitNothing) 
     for (const auto& polygon : polygons) {
         for (int mode : {GDIRegion::AlternateFill, GDIRegion::WindingFill}) {
             r.createPolygonRegion(polygon, mode);
-            EXPECT_FALSE(r.rectInRegion({-10, -10, 30, 30}) || r.inRegion(5, 5) ||
-                         r.inRegion(1, 0));
+            SCOPED_TRACE(::testing::Message() << polygon.size() << " corners, mode " << mode);
+            EXPECT_FALSE(r.rectInRegion({-10, -10, 30, 30}));
+            EXPECT_FALSE(r.inRegion(5, 5));
+            EXPECT_FALSE(r.inRegion(1, 0));
         }
     }
     r.createPolygonRegion(square, 0); // no such fill mode: no region at all
@@ -88,7 +96,9 @@ TEST(GDIRegion, CornersAtTheEndsOfTheIntegerRange) {
     constexpr int32_t lo = std::numeric_limits<int32_t>::min();
     constexpr int32_t hi = std::numeric_limits<int32_t>::max();
     const GDIRegion all = region({{lo, lo}, {hi, lo}, {hi, hi}, {lo, hi}}, GDIRegion::WindingFill);
-    EXPECT_TRUE(all.inRegion(0, 0) && all.inRegion(lo, lo) && all.inRegion(hi - 1, hi - 1));
+    EXPECT_TRUE(all.inRegion(0, 0));
+    EXPECT_TRUE(all.inRegion(lo, lo));
+    EXPECT_TRUE(all.inRegion(hi - 1, hi - 1));
     EXPECT_FALSE(all.inRegion(hi, 0));
     EXPECT_TRUE(all.rectInRegion({lo, lo, hi, hi}));
     // A face with one corner far behind the eye still covers its visible part.

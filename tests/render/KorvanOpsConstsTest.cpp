@@ -90,16 +90,3 @@ TEST(KorvanOpsConsts, SetOrthoViewRejectsUnknownViewsAndResetsIsometricDistance)
     EXPECT_EQ(view.EyeR, 10.0f);
     EXPECT_EQ(view.EyeTheta, static_cast<float>(0.6283185307179581));
 }
-
-TEST(KorvanOpsConsts, SplitColorIgnoresTheTopByte) {
-    int r;
-    int g;
-    int b;
-    KorvanOpsConsts::splitColor(16744512, r, g, b);
-    EXPECT_EQ(r, 64);
-    EXPECT_EQ(g, 128);
-    EXPECT_EQ(b, 255);
-    KorvanOpsConsts::splitColor(0x7F0000FF, r, g, b);
-    EXPECT_EQ(r, 255);
-    EXPECT_EQ(b, 0);
-}

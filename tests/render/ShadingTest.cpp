@@ -78,6 +78,20 @@ TEST(Shading, SpecularTermCanDarkenAndShiftedLightsMove) {
     EXPECT_GT(red(Shading::shadeColor(s, {shifted}, eye, true)), 0);
 }
 
+TEST(Shading, SpecularPeaksWhereTheLightMirrorsIntoTheEyeForAnySlantOfFace) {
+    // Normal (2, 3, 6) / 7; light and eye lie symmetrically about it, at 7N + T and 7N - T
+    // with T = (3, -2, 0) square to N, so the reflected light runs straight into the eye.
+    ShadedSurface s;
+    s.nx = 2.0f / 7;
+    s.ny = 3.0f / 7;
+    s.nz = 6.0f / 7;
+    s.SpecularK = 1;
+    s.SpecularN = 50; // a sharp highlight: any error in the reflection dims it
+    const float distance = std::sqrt(62.0f);
+    const EyePoint eye{-1, 5, 6};
+    EXPECT_EQ(blue(Shading::shadeColor(s, {light(5, 1, 6, distance)}, eye, false)), 200);
+}
+
 TEST(Shading, LightRangesFitTheVisibleCorners) {
     auto cube = makeCube();
     cube->faces[0]->IsCulled = true;

@@ -1,9 +1,12 @@
 #include "render/ViewportRenderer.h"
 
 #include "app/SceneDocument.h"
+#include "render/GDIRegion.h"
 #include "render/KorvanOpsConsts.h"
 #include "scene/Transformed3d.h"
+#include "scene/WorkPlane.h"
 #include "support/RecordingCanvas.h"
+#include "support/ScriptedPrompts.h"
 #include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +23,14 @@ std::shared_ptr<Transformed3d> cubeObject(float h, float cx = 0, float cy = 0, f
     return object;
 }
 
-ViewSpecs isometric() {
+ViewSpecs standardView(int viewConst) {
     ViewSpecs view;
-    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
+    KorvanOpsConsts::setOrthoView(viewConst, view);
     return view;
+}
+
+ViewSpecs isometric() {
+    return standardView(KorvanOpsConsts::viewIsometric);
 }
 
 } // namespace
@@ -108,4 +115,38 @@ TEST(ViewportRenderer, ObjectsPaintFarthestFirstAndSelectionForcesColour) {
         EXPECT_GE(polygons[i].fillColor % 256, 150) << i;
     }
     EXPECT_LT(polygons[0].fillColor % 256, 150);
+}
+
+TEST(ViewportRenderer, AWorkplaneClippedInOneViewportIsDrawnAndPickedInTheNext) {
+    ScriptedPrompts prompts;
+    SceneDocument document = SceneDocument::startUp();
+    document.showGrid = false;
+    document.showReferenceAxes = false;
+    document.showZeroAxes = false;
+    auto plane = std::make_shared<WorkPlane>();
+    plane->initialize(24, 0, 0, 0, 255); // reaches past the side view's eye at x = 10
+    document.workPlanes = {plane};
+    const ViewSpecs side = standardView(KorvanOpsConsts::viewSide);
+    const ViewSpecs front = standardView(KorvanOpsConsts::viewFront);
+    ViewportRenderer renderer;
+
+    RecordingCanvas frontFirst;
+    renderer.redrawViewport(frontFirst, front, document.scene());
+    RecordingCanvas sideCanvas;
+    renderer.redrawViewport(sideCanvas, side, document.scene());
+    RecordingCanvas frontAfterSide;
+    renderer.redrawViewport(frontAfterSide, front, document.scene());
+
+    // The front view draws the plane where it sees it, whatever viewport came before.
+    const auto expected = frontFirst.polygons();
+    const auto drawn = frontAfterSide.polygons();
+    ASSERT_EQ(expected.size(), 1u);
+    ASSERT_EQ(drawn.size(), 1u);
+    ASSERT_EQ(drawn[0].points.size(), 4u);
+    for (size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(drawn[0].points[i].x, expected[0].points[i].x) << i;
+        EXPECT_EQ(drawn[0].points[i].y, expected[0].points[i].y) << i;
+    }
+    EXPECT_NE(plane->createRegion(), nullptr);
+    EXPECT_TRUE(prompts.messages().empty());
 }

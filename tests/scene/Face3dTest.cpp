@@ -7,6 +7,22 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+// A face through the given points (x, y, z, x, y, z, ...), numbered on from the solid's
+// last point. Laid out with canvasLayout(), the points are their own canvas coordinates.
+std::shared_ptr<Face3d> addFace(Solid3d& solid, const std::vector<float>& xyz) {
+    const int32_t first = solid.getNextPointIndex();
+    solid.addPointsArray(xyz);
+    std::vector<int32_t> indices;
+    for (int32_t i = first; i < solid.getNextPointIndex(); ++i) {
+        indices.push_back(i);
+    }
+    return solid.AddFace(indices);
+}
+
+} // namespace
+
 TEST(Face3d, CullingKeepsOnlyFacesTurnedTowardsTheEye) {
     Solid3d solid;
     solid.addPointsArray(std::vector<float>{0, 0, 0, 1, 0, 0, 0, 1, 0});
@@ -43,21 +59,6 @@ TEST(Face3d, DeletingCornersKeepsATriangle) {
     EXPECT_EQ(face.NumPts, 3);
 }
 
-TEST(Face3d, PointInsideAndObscures) {
-    Solid3d solid;
-    solid.addPointsArray(std::vector<float>{10,  10,  0, 50,  10,  0, 50,  50,  0, 10,  50,  0,
-                                            200, 200, 5, 240, 200, 5, 240, 240, 5, 200, 240, 5});
-    auto square = solid.AddFace(std::vector<int32_t>{1, 2, 3, 4});
-    auto far = solid.AddFace(std::vector<int32_t>{5, 6, 7, 8});
-    solid.Apply(canvasLayout());
-    EXPECT_TRUE(square->PointInside(30, 30));
-    EXPECT_FALSE(square->PointInside(5, 30));
-    EXPECT_FALSE(square->PointInside(300, 300));
-    // Disjoint projections: neither obscures the other.
-    EXPECT_FALSE(square->Obscures(*far));
-    EXPECT_FALSE(far->Obscures(*square));
-}
-
 TEST(Face3d, PaintsOnlyWhenSomeCornerIsOnTheCanvas) {
     RecordingCanvas canvas(100, 100);
     Solid3d solid;
@@ -90,4 +91,107 @@ TEST(Face3d, RegionsRoundCornersHalfToEven) {
     EXPECT_EQ(points[0].y, 2);
     EXPECT_EQ(points[2].x, 0);
     EXPECT_EQ(points[2].y, 0);
+}
+
+TEST(Face3d, AFaceThatOutlivesItsSolidDoesNothingAndReadsAsEmpty) {
+    Solid3d live;
+    live.addPointsArray(std::vector<float>{0, 0, 0, 40, 0, 0, 0, 40, 0});
+    auto other = live.AddFace(std::vector<int32_t>{1, 2, 3});
+    live.Apply(canvasLayout());
+
+    auto solid = std::make_shared<Solid3d>();
+    solid->addPointsArray(std::vector<float>{0, 0, 1, 40, 0, 1, 0, 40, 1});
+    std::shared_ptr<Face3d> face = solid->AddFace(std::vector<int32_t>{1, 2, 3});
+    solid->Apply(canvasLayout());
+    solid.reset(); // a selection still holds the face
+    ASSERT_EQ(face->getSolidContainer(), nullptr);
+    EXPECT_EQ(face->NumPts, 3);
+
+    float x = 1, y = 1, z = 1;
+    face->GetTransformedPoint(1, x, y, z);
+    EXPECT_EQ(x, 0.0f);
+    float xmin, xmax, ymin, ymax, zmin, zmax;
+    face->GetExtent(xmin, xmax, ymin, ymax, zmin, zmax);
+    EXPECT_EQ(xmax, 0.0f);
+    face->UnitNormalVector(x, y, z);
+    EXPECT_EQ(z, 0.0f);
+    float Rmin, Rmax;
+    face->getRMinRMax(0, 0, 10, Rmin, Rmax);
+    EXPECT_EQ(Rmin, 1e30f);
+    face->ApplyFull(canvasLayout(2), false);
+    face->ApplyCoord(canvasLayout(2));
+    face->clipEye(0);
+    EXPECT_FALSE(face->IsCulled);
+    EXPECT_EQ(face->zmax(), -1e30f);
+
+    EXPECT_FALSE(face->PointInside(10, 10));
+    EXPECT_FALSE(face->Obscures(*other));
+    EXPECT_FALSE(other->Obscures(*face));
+    EXPECT_TRUE(face->IsAbove(*other));
+    EXPECT_TRUE(other->IsBelow(*face));
+
+    RecordingCanvas canvas(100, 100);
+    face->DrawNoForceColor(canvas, LightList{}, 0, 0, 0, 10, false, false);
+    face->DrawForceColor(canvas, LightList{}, 0, 0, 0, 10, false, 1, 2, 3, false);
+    EXPECT_TRUE(canvas.calls().empty());
+    EXPECT_FALSE(face->createRegion(GDIRegion::WindingFill)->inRegion(10, 10));
+
+    face->cull(0, 0, 10);
+    EXPECT_TRUE(face->IsCulled);
+}
+
+TEST(Face3d, AboveAndBelowTellTheSideOfTheOthersPlaneFacingTheViewer) {
+    Solid3d solid;
+    // The plane z = x / 2 over 0..20, its normal towards the viewer (+z).
+    auto plane = addFace(solid, {0, 0, 0, 20, 0, 10, 20, 20, 10, 0, 20, 0});
+    auto above = addFace(solid, {5, 5, 4.5f, 10, 5, 7, 5, 10, 4.5f});   // 2 nearer the viewer
+    auto below = addFace(solid, {5, 5, 0.5f, 10, 5, 3, 5, 10, 0.5f});   // 2 farther away
+    auto across = addFace(solid, {5, 5, 4.5f, 10, 5, 3, 5, 10, 4.5f});  // one corner farther
+    auto onPlane = addFace(solid, {5, 5, 2.5f, 10, 5, 5, 5, 10, 2.5f}); // within the tolerance
+    solid.Apply(canvasLayout());
+
+    for (int turn = 0; turn < 2; ++turn) {
+        // The answers must not depend on which way the plane lists its corners.
+        SCOPED_TRACE(turn == 0 ? "normal towards the viewer" : "normal away from the viewer");
+        EXPECT_TRUE(above->IsAbove(*plane));
+        EXPECT_FALSE(above->IsBelow(*plane));
+        EXPECT_FALSE(below->IsAbove(*plane));
+        EXPECT_TRUE(below->IsBelow(*plane));
+        EXPECT_FALSE(across->IsAbove(*plane));
+        EXPECT_FALSE(across->IsBelow(*plane));
+        EXPECT_TRUE(onPlane->IsAbove(*plane));
+        EXPECT_TRUE(onPlane->IsBelow(*plane));
+        plane->switchIndexOrientation();
+    }
+}
+
+TEST(Face3d, ObscuresComparesDepthWhereEdgesCrossElseLooksForContainment) {
+    Solid3d solid;
+    // Edges cross at (14, 0) and (14, 20): the tilted square (z = x / 2) is at depth 7
+    // there, in front of the flat strip at depth 4.
+    auto tilted = addFace(solid, {0, 0, 0, 20, 0, 10, 20, 20, 10, 0, 20, 0});
+    auto strip = addFace(solid, {14, -5, 4, 40, -5, 4, 40, 25, 4, 14, 25, 4});
+    // No edges cross: one square holds the other, whichever lies in front.
+    auto big = addFace(solid, {100, 0, 5, 140, 0, 5, 140, 40, 5, 100, 40, 5});
+    auto small = addFace(solid, {105, 5, 0, 110, 5, 0, 110, 10, 0, 105, 10, 0});
+    // Disjoint, but so close that each square's edges, drawn on, would cut the other's.
+    auto left = addFace(solid, {0, 100, 5, 100, 100, 5, 100, 200, 5, 0, 200, 5});
+    auto right = addFace(solid, {100.01f, 100, 0, 200, 100, 0, 200, 200, 0, 100.01f, 200, 0});
+    solid.Apply(canvasLayout());
+
+    EXPECT_TRUE(tilted->Obscures(*strip));
+    EXPECT_FALSE(strip->Obscures(*tilted));
+    EXPECT_TRUE(small->Obscures(*big));
+    EXPECT_TRUE(big->Obscures(*small));
+    EXPECT_FALSE(left->Obscures(*right));
+    EXPECT_FALSE(right->Obscures(*left));
+}
+
+TEST(Face3d, PointInsideCountsTheWindingAngle) {
+    Solid3d solid;
+    auto square = addFace(solid, {10, 10, 0, 50, 10, 0, 50, 50, 0, 10, 50, 0});
+    solid.Apply(canvasLayout());
+    EXPECT_TRUE(square->PointInside(30, 30));
+    EXPECT_FALSE(square->PointInside(5, 30));
+    EXPECT_FALSE(square->PointInside(300, 300));
 }

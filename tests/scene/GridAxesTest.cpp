@@ -58,7 +58,8 @@ TEST(GridSolid3D, StartUpGridIsTwentyByTwentyPointsOfUpwardQuadsCulledFromBelow)
     }
     const auto polygons = canvas.polygons();
     for (size_t i = 0; i < polygons.size(); ++i) {
-        EXPECT_TRUE(polygons[i].fillStyle == FillTransparent && polygons[i].drawStyle == DrawSolid);
+        EXPECT_EQ(polygons[i].fillStyle, FillTransparent) << i;
+        EXPECT_EQ(polygons[i].drawStyle, DrawSolid) << i;
         EXPECT_EQ(polygons[i].foreColor, i == 5 ? 100 * 256 : 100 + 100 * 256 + 100 * 65536);
     }
     // Face order; seen from above +z is to the right and +x up.
@@ -85,9 +86,11 @@ TEST(AxesXYZ, CornerGlyphIgnoresTheViewAndZeroGlyphSitsOnTheOrigin) {
             EXPECT_EQ(c[i + 2].text, std::string(1, static_cast<char>('X' + i / 3)));
         }
         for (const auto& call : c) {
-            EXPECT_TRUE(call.foreColor == 16777215 && call.drawStyle == DrawSolid);
+            EXPECT_EQ(call.foreColor, 16777215);
+            EXPECT_EQ(call.drawStyle, DrawSolid);
         }
-        EXPECT_TRUE(canvas.drawStyle() == 3 && canvas.foreColor() == 255);
+        EXPECT_EQ(canvas.drawStyle(), 3);
+        EXPECT_EQ(canvas.foreColor(), 255);
     }
     // The last view was the front view in perspective: x to the right, y up, z at the eye.
     expectCall(canvas.calls()[1], Kind::LineTo, {{80, 330}});
@@ -121,9 +124,11 @@ TEST(Vector3DDrawer, DrawsALineAndStartSquareOnlyInFrontOfTheEye) {
     ASSERT_EQ(calls.size(), 3u);
     expectCall(calls[0], Kind::MoveTo, {{100, 80}});
     expectCall(calls[1], Kind::LineTo, {{130, 100}});
-    EXPECT_TRUE(calls[1].foreColor == 255 && calls[1].drawStyle == 2);
+    EXPECT_EQ(calls[1].foreColor, 255);
+    EXPECT_EQ(calls[1].drawStyle, 2);
     expectCall(calls[2], Kind::Polygon, {{95, 75}, {105, 75}, {105, 85}, {95, 85}});
     EXPECT_EQ(calls[2].fillStyle, FillTransparent);
-    EXPECT_TRUE(canvas.drawStyle() == DrawInvisible && canvas.foreColor() == 7 &&
-                canvas.fillStyle() == FillSolid);
+    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
+    EXPECT_EQ(canvas.foreColor(), 7);
+    EXPECT_EQ(canvas.fillStyle(), FillSolid);
 }

@@ -57,7 +57,8 @@ TEST(Profile, PointsAreSharedAndOnlyReportedOnceThereIsASegment) {
     profile.setVisible(false);
     const auto copy = profile.clone();
     EXPECT_EQ(copy->getPoints(), profile.getPoints());
-    EXPECT_TRUE(copy->isSelected() && !copy->isVisible());
+    EXPECT_TRUE(copy->isSelected());
+    EXPECT_FALSE(copy->isVisible());
     copy->addPointRecord(recordAt(7, 8)); // a point of the clone alone
     EXPECT_EQ(copy->getPointRecord(5).coord, (Point4{7, 8, 0, 1}));
     EXPECT_EQ(profile.getPointCount(), 4);
@@ -96,12 +97,14 @@ TEST(Profile, ProjectsDrawsInTheSelectionColourAndHitTestsTheClosedPolyline) {
         for (size_t i = 0; i < calls.size(); ++i) {
             EXPECT_EQ(calls[i].kind, i == 0 ? Kind::MoveTo : Kind::LineTo);
             EXPECT_EQ(std::pair(calls[i].points[0].x, calls[i].points[0].y), corners[i]);
-            EXPECT_TRUE(calls[i].foreColor == colour && calls[i].fillStyle == FillTransparent &&
-                        calls[i].drawStyle == DrawSolid);
+            EXPECT_EQ(calls[i].foreColor, colour) << i;
+            EXPECT_EQ(calls[i].fillStyle, FillTransparent) << i;
+            EXPECT_EQ(calls[i].drawStyle, DrawSolid) << i;
         }
-        EXPECT_TRUE(canvas.fillStyle() == FillDiagonalCross &&
-                    canvas.drawStyle() == DrawInvisible && canvas.foreColor() == 1 &&
-                    canvas.fillColor() == 2);
+        EXPECT_EQ(canvas.fillStyle(), FillDiagonalCross);
+        EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
+        EXPECT_EQ(canvas.foreColor(), 1);
+        EXPECT_EQ(canvas.fillColor(), 2);
     }
     // A hidden profile keeps its last projection.
     profile.ApplyFull(canvasLayout(1, 0, 0));

@@ -36,7 +36,8 @@ TEST(WorkPlane, InitializeLaysOutTheCornersAndKeepsTheCentreAtTheOrigin) {
     plane.initialize(10, 0, quarter, 0, 0);
     EXPECT_EQ(corner(plane, 1), (Point4{0, -5, 5, 1}));
     plane.initialize(10, quarter, 0, 0, 0);
-    EXPECT_TRUE(corner(plane, 1).y != 0 && std::fabs(corner(plane, 1).y) < 1e-6f);
+    EXPECT_NE(corner(plane, 1).y, 0.0f);
+    EXPECT_LT(std::fabs(corner(plane, 1).y), 1e-6f);
     EXPECT_FLOAT_EQ(corner(plane, 1).z, -5.0f);
 }
 
@@ -46,6 +47,7 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
     plane.initialize(10, 0, 0, 2, 200 + 256 * 120 + 65536 * 10);
     plane.setSelected(true);
     plane.ApplyFull(canvasLayout(10, 100, 100));
+    EXPECT_EQ(plane.getCenterCoord()->getRecord().trans, (Point4{100, 100, 0, 1}));
     const auto region = plane.createRegion();
     ASSERT_NE(region, nullptr);
     EXPECT_TRUE(region->inRegion(100, 100));
@@ -64,15 +66,21 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(calls[i].kind,
                   i == 0 ? RecordingCanvas::Kind::MoveTo : RecordingCanvas::Kind::LineTo);
-        EXPECT_TRUE(calls[i].points[0].x == expected[i][0] &&
-                    calls[i].points[0].y == expected[i][1]);
-        EXPECT_TRUE(calls[i].foreColor == tinted && calls[i].drawStyle == DrawSolid);
+        EXPECT_EQ(calls[i].points[0].x, expected[i][0]) << i;
+        EXPECT_EQ(calls[i].points[0].y, expected[i][1]) << i;
+        EXPECT_EQ(calls[i].foreColor, tinted) << i;
+        EXPECT_EQ(calls[i].drawStyle, DrawSolid) << i;
     }
-    EXPECT_TRUE(calls[5].kind == RecordingCanvas::Kind::Polygon && calls[5].points.size() == 4 &&
-                calls[5].fillStyle == FillDiagonalCross && calls[5].foreColor == tinted &&
-                calls[5].fillColor == tinted);
-    EXPECT_TRUE(canvas.fillStyle() == FillTransparent && canvas.drawStyle() == DrawInvisible &&
-                canvas.foreColor() == 1 && canvas.fillColor() == 2);
+    EXPECT_EQ(calls[5].kind, RecordingCanvas::Kind::Polygon);
+    EXPECT_EQ(calls[5].points.size(), 4u);
+    EXPECT_EQ(calls[5].fillStyle, FillDiagonalCross);
+    EXPECT_EQ(calls[5].foreColor, tinted);
+    EXPECT_EQ(calls[5].fillColor, tinted);
+    // The canvas is left as it was.
+    EXPECT_EQ(canvas.fillStyle(), FillTransparent);
+    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
+    EXPECT_EQ(canvas.foreColor(), 1);
+    EXPECT_EQ(canvas.fillColor(), 2);
     EXPECT_FALSE(plane.getSolid()->hasTransformedPoint(1));
 
     // Hidden, it is neither transformed, drawn nor picked, and says nothing.
@@ -93,6 +101,11 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
     const auto& message = prompts.messages()[0];
     EXPECT_EQ(message.text,
               "Error in region Algorithm for workPlane.  See createRegion in class WorkPlane");
-    EXPECT_TRUE(message.title.empty() && message.icon == MessageIcon::Critical &&
-                message.buttons == MessageButtons::Ok);
+    EXPECT_EQ(message.title, "");
+    EXPECT_EQ(message.icon, MessageIcon::Critical);
+    EXPECT_EQ(message.buttons, MessageButtons::Ok);
+
+    // The clipping holds for that viewport only: the next transform brings the face back.
+    plane.ApplyFull(canvasLayout(10, 100, 100));
+    EXPECT_NE(plane.createRegion(), nullptr);
 }
