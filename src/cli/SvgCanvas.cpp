@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 namespace {
 
@@ -155,11 +154,4 @@ std::string SvgCanvas::svg() const {
         document += element + "\n";
     }
     return document + "</svg>\n";
-}
-
-bool SvgCanvas::saveFile(const std::string& path) const {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << svg();
-    file.close();
-    return !file.fail();
 }

@@ -2,8 +2,11 @@
 
 #include "geometry/CPoint3D.h"
 #include "io/FileBytes.h"
+#include "io/FileError.h"
+#include "io/FileOverwriter.h"
 #include "io/LittleEndianReader.h"
 #include "io/LittleEndianWriter.h"
+#include "io/PosixFileSystem.h"
 #include "scene/Face3d.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
@@ -28,8 +31,18 @@ bool fits(const LittleEndianReader& in, int32_t count, uint64_t recordBytes,
     return count >= 0 && static_cast<uint64_t>(count) * recordBytes + afterBytes <= in.remaining();
 }
 
-bool readFinite(LittleEndianReader& in, float& value) {
-    return in.readFloat32(value) && std::isfinite(value);
+// The one rule for the values of the file, kept by the writer and checked by the reader.
+bool storable(float value) {
+    return std::isfinite(value);
+}
+
+bool storableExponent(float exponent) {
+    return exponent >= std::numeric_limits<int16_t>::min() &&
+           exponent <= std::numeric_limits<int16_t>::max();
+}
+
+bool readStorable(LittleEndianReader& in, float& value) {
+    return in.readFloat32(value) && storable(value);
 }
 
 std::shared_ptr<Face3d> readFace(LittleEndianReader& in, Solid3d& solid, int32_t pointCount) {
@@ -53,17 +66,11 @@ std::shared_ptr<Face3d> readFace(LittleEndianReader& in, Solid3d& solid, int32_t
     for (float* coefficient :
          {&face->AmbientKr, &face->AmbientKg, &face->AmbientKb, &face->DiffuseKr, &face->DiffuseKg,
           &face->DiffuseKb, &face->SpecularK, &face->SpecularN}) {
-        if (!readFinite(in, *coefficient)) {
+        if (!readStorable(in, *coefficient)) {
             return nullptr;
         }
     }
-    // Shading multiplies once per unit of the exponent: a huge one stalls drawing for
-    // seconds per face.
-    if (face->SpecularN < std::numeric_limits<int16_t>::min() ||
-        face->SpecularN > std::numeric_limits<int16_t>::max()) {
-        return nullptr;
-    }
-    return face;
+    return storableExponent(face->SpecularN) ? face : nullptr;
 }
 
 std::shared_ptr<Solid3d> readSolid(LittleEndianReader& in) {
@@ -74,7 +81,7 @@ std::shared_ptr<Solid3d> readSolid(LittleEndianReader& in) {
     }
     std::vector<float> coordinates(3 * static_cast<size_t>(pointCount));
     for (float& c : coordinates) {
-        if (!readFinite(in, c)) {
+        if (!readStorable(in, c)) {
             return nullptr;
         }
     }
@@ -99,17 +106,23 @@ int32_t countOf(size_t size) {
     return static_cast<int32_t>(size);
 }
 
-std::vector<uint8_t> encode(const ObjectList& objects) {
+// The file's bytes for the objects, or nothing when a value breaks the file's rule.
+std::optional<std::vector<uint8_t>> encode(const ObjectList& objects) {
     LittleEndianWriter out;
+    bool valid = true;
+    const auto writeValue = [&](float value) {
+        valid = valid && storable(value);
+        out.writeFloat32(value);
+    };
     out.writeInt32(countOf(objects.size()));
     for (const auto& object : objects) {
         const auto points = object->getPoints();
         out.writeInt32(countOf(points.size()));
         for (const auto& point : points) {
             const Point4 c = point->getRecord().coord;
-            out.writeFloat32(c.x);
-            out.writeFloat32(c.y);
-            out.writeFloat32(c.z);
+            writeValue(c.x);
+            writeValue(c.y);
+            writeValue(c.z);
         }
         const FaceList faces = object->getFaces();
         out.writeInt32(countOf(faces.size()));
@@ -123,31 +136,69 @@ std::vector<uint8_t> encode(const ObjectList& objects) {
             for (const float coefficient :
                  {face->AmbientKr, face->AmbientKg, face->AmbientKb, face->DiffuseKr,
                   face->DiffuseKg, face->DiffuseKb, face->SpecularK, face->SpecularN}) {
-                out.writeFloat32(coefficient);
+                writeValue(coefficient);
             }
+            valid = valid && storableExponent(face->SpecularN);
         }
+    }
+    if (!valid) {
+        return std::nullopt;
     }
     return out.take();
 }
 
+// The bytes of the old file behind the new content, which a save keeps; none when there is
+// no old file or it is not one that keeps bytes.
+std::error_code oldTail(FileSystem& system, const std::string& file, uint64_t from,
+                        std::vector<uint8_t>& tail) {
+    const std::error_code error = FileBytes::read(system, file, from, tail);
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::is_a_directory ||
+        error == FileError::notRegularFile) {
+        return {}; // writing reports what is wrong with it, if anything
+    }
+    return error;
+}
+
 } // namespace
 
+TavrinMeshIO::TavrinMeshIO() : system_(PosixFileSystem::instance()) {}
+
 bool TavrinMeshIO::saveFile(const ObjectList& solids, std::string filename) {
+    filename = normalizeFileName(filename);
     try {
-        return overwriter_.overwrite(normalizeFileName(filename), encode(solids));
+        std::optional<std::vector<uint8_t>> content = encode(solids);
+        if (!content) {
+            lastError_ = FileError::unstorableValue;
+            return false;
+        }
+        std::vector<uint8_t> tail;
+        lastError_ = oldTail(system_, filename, content->size(), tail);
+        if (!lastError_) {
+            content->insert(content->end(), tail.begin(), tail.end());
+            lastError_ = FileOverwriter(system_).overwrite(filename, *content);
+        }
     } catch (const std::bad_alloc&) {
-        return false;
+        lastError_ = std::make_error_code(std::errc::not_enough_memory);
     }
+    return !lastError_;
 }
 
 std::optional<ObjectList> TavrinMeshIO::OpenFile(std::string& filename) {
     filename = normalizeFileName(filename);
+    std::optional<ObjectList> objects;
     try {
-        const std::optional<std::vector<uint8_t>> bytes = FileBytes::read(filename, 0);
-        return bytes ? parse(*bytes) : std::nullopt;
+        std::vector<uint8_t> bytes;
+        lastError_ = FileBytes::read(system_, filename, 0, bytes);
+        if (!lastError_) {
+            objects = parse(bytes);
+            if (!objects) {
+                lastError_ = FileError::corrupt;
+            }
+        }
     } catch (const std::bad_alloc&) {
-        return std::nullopt;
+        lastError_ = std::make_error_code(std::errc::not_enough_memory);
     }
+    return objects;
 }
 
 std::optional<ObjectList> TavrinMeshIO::parse(std::span<const uint8_t> bytes) {
