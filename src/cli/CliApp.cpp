@@ -9,7 +9,6 @@
 #include "qt/QtCanvas.h"
 #include "render/SceneDocument.h"
 #include "render/ViewportRenderer.h"
-#include "scene/Transformed3d.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -115,7 +114,8 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
     }
 }
 
-std::vector<std::shared_ptr<Transformed3d>> CliApp::loadScene(const std::string& path) const {
+// Reads the scene with read (OpenFile or countFile), or throws with what went wrong.
+template <class Read> auto CliApp::readScene(const std::string& path, Read read) const {
     // The reader cleans names as it does those from the file dialog; a name it would change
     // would make it read a different file.
     if (TavrinMeshIO::normalizeFileName(path) != path) {
@@ -126,14 +126,14 @@ std::vector<std::shared_ptr<Transformed3d>> CliApp::loadScene(const std::string&
     }
     std::string name = path;
     TavrinMeshIO meshIO(files_);
-    auto objects = meshIO.OpenFile(name);
-    if (!objects) {
+    auto result = (meshIO.*read)(name);
+    if (!result) {
         const std::error_code error = meshIO.getLastError();
         throw CliError((error == FileError::corrupt ? "cannot read " : "cannot open ") +
                            quoted(path) + ": " + reason(error),
                        CliError::failure);
     }
-    return *objects;
+    return *std::move(result);
 }
 
 void CliApp::writeOutput(const std::string& path, std::span<const uint8_t> content) const {
@@ -144,7 +144,7 @@ void CliApp::writeOutput(const std::string& path, std::span<const uint8_t> conte
 
 void CliApp::render(const CliOptions& options) const {
     SceneDocument document = SceneDocument::startUp();
-    document.solids = loadScene(options.scene);
+    document.solids = readScene(options.scene, &TavrinMeshIO::OpenFile);
     document.showGrid = !options.noGrid;
     document.showZeroAxes = !options.noAxes;
     document.showReferenceAxes = !options.noAxes;
@@ -196,14 +196,12 @@ void CliApp::render(const CliOptions& options) const {
 }
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
-    const auto objects = loadScene(options.scene);
+    const auto objects = readScene(options.scene, &TavrinMeshIO::countFile);
     out << "{\"file\": " << jsonString(options.scene) << ", \"objects\": " << objects.size()
         << ", \"items\": [";
     for (size_t i = 0; i < objects.size(); ++i) {
-        const auto solid = objects[i]->getSolid();
-        const int32_t points = solid ? solid->getNextPointIndex() - 1 : 0;
-        const int32_t faces = solid ? solid->GetFaceNum() : 0;
-        out << (i > 0 ? ", " : "") << "{\"points\": " << points << ", \"faces\": " << faces << "}";
+        out << (i > 0 ? ", " : "") << "{\"points\": " << objects[i].points
+            << ", \"faces\": " << objects[i].faces << "}";
     }
     out << "]}\n";
 }

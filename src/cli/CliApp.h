@@ -5,12 +5,9 @@
 
 #include <cstdint>
 #include <iosfwd>
-#include <memory>
 #include <span>
 #include <string>
 #include <vector>
-
-class Transformed3d;
 
 // korvan-cli: renders or describes a mesh file headless, through the editor's own pipeline.
 class CliApp {
@@ -25,7 +22,7 @@ public:
     int run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
 private:
-    std::vector<std::shared_ptr<Transformed3d>> loadScene(const std::string& path) const;
+    template <class Read> auto readScene(const std::string& path, Read read) const;
     // Replaces the output file, or leaves it as it was and throws.
     void writeOutput(const std::string& path, std::span<const uint8_t> content) const;
     void render(const CliOptions& options) const;

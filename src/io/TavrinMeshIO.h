@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <system_error>
+#include <type_traits>
 #include <vector>
 
 class Transformed3d;
@@ -48,7 +49,15 @@ public:
     // The objects of the file, or nothing when it cannot be opened or is not a valid mesh
     // file. filename is normalised in place, so that a caller's message can show it.
     std::optional<ObjectList> OpenFile(std::string& filename);
-    // Why the last saveFile or OpenFile failed: the system's error, or a FileError.
+    // How many points and faces an object of the file has.
+    struct ObjectCounts {
+        int32_t points = 0;
+        int32_t faces = 0;
+    };
+    // The counts of every object of the file, checked as OpenFile checks them, without
+    // building the objects: a file of many small objects takes far less memory so.
+    std::optional<std::vector<ObjectCounts>> countFile(std::string& filename);
+    // Why the last saveFile, OpenFile or countFile failed: the system's error, or a FileError.
     std::error_code getLastError() const { return lastError_; }
     std::string getExtension() const { return ".tvm"; }
     // Blanks for every character outside " ".."~", trimmed, ".tvm" appended unless the
@@ -60,6 +69,13 @@ public:
     static std::optional<ObjectList> parse(std::span<const uint8_t> bytes);
 
 private:
+    // The counts that parse would find, without the objects.
+    static std::optional<std::vector<ObjectCounts>> count(std::span<const uint8_t> bytes);
+    // Reads the whole file and applies parse to its bytes.
+    template <class Parse>
+    std::invoke_result_t<Parse, std::span<const uint8_t>> readFile(std::string& filename,
+                                                                   Parse parse);
+
     FileSystem& system_;
     std::error_code lastError_;
 };
