@@ -247,16 +247,16 @@ bool TavrinMeshIO::saveFile(const ObjectList& solids, std::string filename) {
     return !lastError_;
 }
 
-template <class Parse>
-std::invoke_result_t<Parse, std::span<const uint8_t>> TavrinMeshIO::readFile(std::string& filename,
-                                                                             Parse parse) {
+template <class Interpret>
+std::invoke_result_t<Interpret, std::span<const uint8_t>>
+TavrinMeshIO::readFile(std::string& filename, Interpret interpret) {
     filename = normalizeFileName(filename);
-    std::invoke_result_t<Parse, std::span<const uint8_t>> result;
+    std::invoke_result_t<Interpret, std::span<const uint8_t>> result;
     try {
         std::vector<uint8_t> bytes;
         lastError_ = FileBytes::read(system_, filename, 0, bytes);
         if (!lastError_) {
-            result = parse(bytes);
+            result = interpret(bytes);
             if (!result) {
                 lastError_ = FileError::corrupt;
             }

@@ -71,10 +71,10 @@ public:
 private:
     // The counts that parse would find, without the objects.
     static std::optional<std::vector<ObjectCounts>> count(std::span<const uint8_t> bytes);
-    // Reads the whole file and applies parse to its bytes.
-    template <class Parse>
-    std::invoke_result_t<Parse, std::span<const uint8_t>> readFile(std::string& filename,
-                                                                   Parse parse);
+    // Reads the whole file and interprets its bytes (parse or count).
+    template <class Interpret>
+    std::invoke_result_t<Interpret, std::span<const uint8_t>> readFile(std::string& filename,
+                                                                       Interpret interpret);
 
     FileSystem& system_;
     std::error_code lastError_;
