@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -36,6 +37,19 @@ FileSystem::Status statusFrom(const struct stat& info) {
 }
 
 // A call interrupted by a signal is repeated.
+// As many links as the system itself follows in one path.
+constexpr int maxLinks = 40;
+
+// The path with every link resolved, of a file that exists; nothing (and errno) otherwise.
+std::optional<std::string> realPath(const std::string& path) {
+    const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.c_str(), nullptr),
+                                                          &std::free);
+    if (!resolved) {
+        return std::nullopt;
+    }
+    return std::string(resolved.get());
+}
+
 template <class Call> long retried(Call call) {
     long result;
     do {
@@ -69,31 +83,37 @@ std::error_code PosixFileSystem::status(const std::string& path, Status& status)
 }
 
 std::error_code PosixFileSystem::resolve(const std::string& path, std::string& resolved) {
-    // The folder must exist, the file need not: a new file's name is resolved through its
-    // folder, an existing one (a link, say) through itself.
-    const std::unique_ptr<char, decltype(&std::free)> whole(::realpath(path.c_str(), nullptr),
-                                                            &std::free);
-    if (whole) {
-        resolved = whole.get();
-        return {};
+    // An existing file resolves through itself; a missing one through its folder, which must
+    // exist; a link to a missing file through the name it points to, where writing through
+    // the link would create the file.
+    std::string name = path;
+    for (int links = 0; links < maxLinks; ++links) {
+        if (const std::optional<std::string> whole = realPath(name)) {
+            resolved = *whole;
+            return {};
+        }
+        if (errno != ENOENT) {
+            return lastError();
+        }
+        const std::string folder = name.substr(0, name.find_last_of('/') + 1); // "" for none
+        struct stat info {};
+        if (::lstat(name.c_str(), &info) != 0 || !S_ISLNK(info.st_mode)) {
+            const std::optional<std::string> parent = realPath(folder.empty() ? "." : folder);
+            if (!parent) {
+                return lastError();
+            }
+            resolved = *parent + "/" + name.substr(folder.size());
+            return {};
+        }
+        std::string target(PATH_MAX, '\0');
+        const ssize_t length = ::readlink(name.c_str(), target.data(), target.size());
+        if (length < 0) {
+            return lastError();
+        }
+        target.resize(static_cast<size_t>(length));
+        name = target.starts_with('/') ? target : folder + target;
     }
-    if (errno != ENOENT) {
-        return lastError();
-    }
-    struct stat info {};
-    if (::lstat(path.c_str(), &info) == 0) {
-        return std::make_error_code(std::errc::no_such_file_or_directory); // a dangling link
-    }
-    const size_t slash = path.find_last_of('/');
-    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const std::unique_ptr<char, decltype(&std::free)> parent(::realpath(folder.c_str(), nullptr),
-                                                             &std::free);
-    if (!parent) {
-        return lastError();
-    }
-    resolved = std::string(parent.get()) + "/" +
-               (slash == std::string::npos ? path : path.substr(slash + 1));
-    return {};
+    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
 
 std::error_code PosixFileSystem::list(const std::string& folder, std::vector<std::string>& names) {

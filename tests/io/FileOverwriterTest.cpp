@@ -120,6 +120,12 @@ TEST(FileOverwriter, KeepsPermissionsOwnerAndLinksAndCleansUpAfterADeadSave) {
     ASSERT_EQ(FileOverwriter(system).overwrite(link, oldContent), std::error_code());
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(contentOf(file), oldContent);
+    // Also when the file it names does not exist yet.
+    const std::string dangling = folder.file("dangling.tvm");
+    fs::create_symlink("made through the link.tvm", dangling);
+    ASSERT_EQ(FileOverwriter(system).overwrite(dangling, newContent), std::error_code());
+    EXPECT_TRUE(fs::is_symlink(dangling));
+    EXPECT_EQ(contentOf(folder.file("made through the link.tvm")), newContent);
 }
 
 TEST(FileOverwriter, WritesInPlaceOnlyWhereNoTemporaryMayBeMade) {
