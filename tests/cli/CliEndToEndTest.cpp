@@ -59,8 +59,10 @@ protected:
     std::string at(const std::string& name) const { return "'" + (dir_ / name).string() + "'"; }
 
     // Runs the tool, giving up after a while rather than waiting for ever.
-    Outcome run(const std::string& arguments, const std::string& out = "") const {
-        const std::string command = std::string("timeout 60 '") + KORVAN_CLI_PATH + "' " +
+    // limits go before the tool's name: a limit of resources, say.
+    Outcome run(const std::string& arguments, const std::string& out = "",
+                const std::string& limits = "") const {
+        const std::string command = "timeout 60 " + limits + " '" + KORVAN_CLI_PATH + "' " +
                                     arguments + " >" + (out.empty() ? at("stdout") : out) + " 2>" +
                                     at("stderr");
         const int raw = std::system(command.c_str());
@@ -170,6 +172,24 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatus) {
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.err, "");
     EXPECT_EQ(help.out.rfind("Usage: korvan-cli render", 0), 0u);
+}
+
+TEST_F(CliEndToEnd, InfoTakesMemoryInProportionToTheFile) {
+    // 300,000 objects without points or faces: 2.4 MB, where building them all would take
+    // over 100 MB.
+    const int32_t count = 300000;
+    std::string bytes(4 + 8 * static_cast<size_t>(count), '\0');
+    for (int i = 0; i < 4; ++i) {
+        bytes[static_cast<size_t>(i)] = static_cast<char>(count >> (8 * i));
+    }
+    std::ofstream(dir_ / "many.tvm", std::ios::binary) << bytes;
+    const Outcome info = run("info " + at("many.tvm"), "", "prlimit --data=67108864");
+    EXPECT_EQ(info.status, 0);
+    EXPECT_EQ(info.err, "");
+    EXPECT_EQ(info.out.rfind("{\"file\": \"" + (dir_ / "many.tvm").string() +
+                                 "\", \"objects\": 300000, \"items\": [{\"points\": 0, ",
+                             0),
+              0u);
 }
 
 // Failures the superuser who runs the build never meets, injected in the tool's file calls.
