@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <optional>
 #include <ostream>
+#include <system_error>
 
 namespace {
 
@@ -80,8 +81,7 @@ CliApp::CliApp() : files_(PosixFileSystem::instance()) {}
 int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     try {
         const CliOptions options = CliOptions::parse(args);
-        // errno tells why standard output failed, when it does; nothing before may leave
-        // its own behind.
+        // errno says why standard output failed; cleared so that no older error is blamed.
         errno = 0;
         switch (options.command) {
         case CliOptions::Command::Help:
