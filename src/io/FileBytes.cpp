@@ -2,6 +2,8 @@
 
 #include "io/FileError.h"
 
+#include <new>
+
 namespace FileBytes {
 
 std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
@@ -18,7 +20,11 @@ std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
     } else if (!error && status.kind != FileSystem::Kind::Regular) {
         error = FileError::notRegularFile;
     } else if (!error && status.size > from) {
-        bytes.resize(static_cast<size_t>(status.size - from));
+        try {
+            bytes.resize(static_cast<size_t>(status.size - from));
+        } catch (const std::bad_alloc&) {
+            error = std::make_error_code(std::errc::not_enough_memory); // and the file is closed
+        }
         size_t filled = 0;
         size_t count = 1;
         while (!error && count > 0 && filled < bytes.size()) {
