@@ -1,4 +1,5 @@
 #include "io/FileBytes.h"
+#include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
 #include "scene/Transformed3d.h"
 
@@ -98,7 +99,11 @@ static void BM_MeshLoad(benchmark::State& state) {
 static void BM_MeshParse(benchmark::State& state) {
     BenchFolder folder;
     TavrinMeshIO().saveFile(millionFaces(), folder.file);
-    const std::vector<uint8_t> bytes = FileBytes::read(folder.file, 0).value();
+    std::vector<uint8_t> bytes;
+    if (FileBytes::read(PosixFileSystem::instance(), folder.file, 0, bytes)) {
+        state.SkipWithError("read failed");
+        return;
+    }
     for (auto _ : state) {
         std::optional<ObjectList> loaded = TavrinMeshIO::parse(bytes);
         state.PauseTiming();

@@ -3,17 +3,21 @@
 #include "app/SceneDocument.h"
 #include "cli/CliError.h"
 #include "cli/SvgCanvas.h"
+#include "io/FileError.h"
+#include "io/FileOverwriter.h"
+#include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
 #include "qt/QtCanvas.h"
 #include "render/ViewportRenderer.h"
-#include "scene/Transformed3d.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
+#include <cctype>
+#include <cerrno>
 #include <cstdio>
-#include <filesystem>
-#include <iostream>
 #include <optional>
 #include <ostream>
+#include <system_error>
 
 namespace {
 
@@ -29,6 +33,15 @@ std::string oneLine(std::string message) {
         }
     }
     return message;
+}
+
+// The system's description of an error, as the end of a sentence.
+std::string reason(const std::error_code& error) {
+    std::string text = error.message();
+    if (!text.empty()) {
+        text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
+    }
+    return text;
 }
 
 std::string jsonString(const std::string& text) {
@@ -63,9 +76,13 @@ ViewSpecs viewFor(const CliOptions& options) {
 
 } // namespace
 
+CliApp::CliApp() : files_(PosixFileSystem::instance()) {}
+
 int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     try {
         const CliOptions options = CliOptions::parse(args);
+        // errno says why standard output failed; cleared so that no older error is blamed.
+        errno = 0;
         switch (options.command) {
         case CliOptions::Command::Help:
             out << CliOptions::helpText();
@@ -77,7 +94,13 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
             info(options, out);
             break;
         }
-        out.flush();
+        if (!out.flush()) {
+            const int error = errno;
+            throw CliError(
+                "cannot write to standard output" +
+                    (error != 0 ? ": " + reason({error, std::generic_category()}) : std::string()),
+                CliError::failure);
+        }
         return 0;
     } catch (const CliError& error) {
         err << "korvan-cli: " << oneLine(error.what()) << '\n';
@@ -91,14 +114,8 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
     }
 }
 
-std::vector<std::shared_ptr<Transformed3d>> CliApp::loadScene(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::exists(path, error)) {
-        throw CliError("cannot open " + quoted(path) + ": no such file", CliError::failure);
-    }
-    if (std::filesystem::is_directory(path, error)) {
-        throw CliError("cannot open " + quoted(path) + ": it is a directory", CliError::failure);
-    }
+// Reads the scene with read (OpenFile or countFile), or throws with what went wrong.
+template <class Read> auto CliApp::readScene(const std::string& path, Read read) const {
     // The reader cleans names as it does those from the file dialog; a name it would change
     // would make it read a different file.
     if (TavrinMeshIO::normalizeFileName(path) != path) {
@@ -108,33 +125,38 @@ std::vector<std::shared_ptr<Transformed3d>> CliApp::loadScene(const std::string&
                        CliError::failure);
     }
     std::string name = path;
-    TavrinMeshIO meshIO;
-    auto objects = meshIO.OpenFile(name);
-    if (!objects) {
-        throw CliError("cannot read " + quoted(path) +
-                           ": the file might be corrupted or was improperly saved",
+    TavrinMeshIO meshIO(files_);
+    auto result = (meshIO.*read)(name);
+    if (!result) {
+        const std::error_code error = meshIO.getLastError();
+        throw CliError((error == FileError::corrupt ? "cannot read " : "cannot open ") +
+                           quoted(path) + ": " + reason(error),
                        CliError::failure);
     }
-    return *objects;
+    return *std::move(result);
 }
 
-void CliApp::render(const CliOptions& options) {
+void CliApp::writeOutput(const std::string& path, std::span<const uint8_t> content) const {
+    if (const std::error_code error = FileOverwriter(files_).overwrite(path, content)) {
+        throw CliError("cannot write " + quoted(path) + ": " + reason(error), CliError::failure);
+    }
+}
+
+void CliApp::render(const CliOptions& options) const {
     SceneDocument document = SceneDocument::startUp();
-    document.solids = loadScene(options.scene);
+    document.solids = readScene(options.scene, &TavrinMeshIO::OpenFile);
     document.showGrid = !options.noGrid;
     document.showZeroAxes = !options.noAxes;
     document.showReferenceAxes = !options.noAxes;
     const ViewSpecs view = viewFor(options);
     ViewportRenderer renderer;
-    const CliError cannotWrite("cannot write " + quoted(options.output), CliError::failure);
 
     if (options.format == CliOptions::Format::Svg) {
         SvgCanvas canvas(options.width, options.height);
         renderer.redrawViewport(canvas, view, document.scene());
         canvas.refresh();
-        if (!canvas.saveFile(options.output)) {
-            throw cannotWrite;
-        }
+        const std::string svg = canvas.svg();
+        writeOutput(options.output, {reinterpret_cast<const uint8_t*>(svg.data()), svg.size()});
         return;
     }
 
@@ -149,10 +171,11 @@ void CliApp::render(const CliOptions& options) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
         // Qt's notes about its surroundings (no runtime directory on a headless machine, say)
-        // are not failures of the tool; a successful run keeps standard error empty.
+        // are not failures of the tool, and the tool reports its own failures in one line of
+        // its own; only a fatal error, which ends the process, gets through.
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-            if (type == QtCriticalMsg || type == QtFatalMsg) {
-                std::cerr << "korvan-cli: " << oneLine(text.toStdString()) << '\n';
+            if (type == QtFatalMsg) {
+                std::fprintf(stderr, "korvan-cli: %s\n", oneLine(text.toStdString()).c_str());
             }
         });
         application.emplace(argc, argv);
@@ -160,20 +183,25 @@ void CliApp::render(const CliOptions& options) {
     QtCanvas canvas(options.width, options.height);
     renderer.redrawViewport(canvas, view, document.scene());
     canvas.refresh();
-    if (!canvas.saveImage(options.output)) {
-        throw cannotWrite;
+    // Encoded in memory, so that the file is written the way every output is.
+    QByteArray encoded;
+    QBuffer buffer(&encoded);
+    buffer.open(QIODevice::WriteOnly);
+    if (!canvas.image().save(&buffer, options.format == CliOptions::Format::Bmp ? "BMP" : "PNG")) {
+        throw CliError("cannot write " + quoted(options.output) + ": the picture cannot be encoded",
+                       CliError::failure);
     }
+    writeOutput(options.output, {reinterpret_cast<const uint8_t*>(encoded.constData()),
+                                 static_cast<size_t>(encoded.size())});
 }
 
-void CliApp::info(const CliOptions& options, std::ostream& out) {
-    const auto objects = loadScene(options.scene);
+void CliApp::info(const CliOptions& options, std::ostream& out) const {
+    const auto objects = readScene(options.scene, &TavrinMeshIO::countFile);
     out << "{\"file\": " << jsonString(options.scene) << ", \"objects\": " << objects.size()
         << ", \"items\": [";
     for (size_t i = 0; i < objects.size(); ++i) {
-        const auto solid = objects[i]->getSolid();
-        const int32_t points = solid ? solid->getNextPointIndex() - 1 : 0;
-        const int32_t faces = solid ? solid->GetFaceNum() : 0;
-        out << (i > 0 ? ", " : "") << "{\"points\": " << points << ", \"faces\": " << faces << "}";
+        out << (i > 0 ? ", " : "") << "{\"points\": " << objects[i].points
+            << ", \"faces\": " << objects[i].faces << "}";
     }
     out << "]}\n";
 }

@@ -1,23 +1,32 @@
 #pragma once
 
 #include "cli/CliOptions.h"
+#include "platform/FileSystem.h"
 
+#include <cstdint>
 #include <iosfwd>
-#include <memory>
+#include <span>
 #include <string>
 #include <vector>
-
-class Transformed3d;
 
 // korvan-cli: renders or describes a mesh file headless, through the editor's own pipeline.
 class CliApp {
 public:
+    // Works on the system's own files.
+    CliApp();
+    // Works through the given file system; tests pass one that fails on request.
+    explicit CliApp(FileSystem& files) : files_(files) {}
+
     // Runs one command line (the arguments after the program name): results go to out, an
     // error as one line "korvan-cli: ..." to err. Returns the exit status; never throws.
     int run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
 private:
-    static std::vector<std::shared_ptr<Transformed3d>> loadScene(const std::string& path);
-    static void render(const CliOptions& options);
-    static void info(const CliOptions& options, std::ostream& out);
+    template <class Read> auto readScene(const std::string& path, Read read) const;
+    // Replaces the output file, or leaves it as it was and throws.
+    void writeOutput(const std::string& path, std::span<const uint8_t> content) const;
+    void render(const CliOptions& options) const;
+    void info(const CliOptions& options, std::ostream& out) const;
+
+    FileSystem& files_;
 };

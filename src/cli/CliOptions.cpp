@@ -189,8 +189,9 @@ as the editor's own file dialogs produce.
 
 Exit status:
   0  success
-  1  the scene cannot be read (missing, not a .tvm name, corrupt) or the
-     output cannot be written
+  1  the scene cannot be read (missing, not a regular file, not a .tvm
+     name, corrupt) or the output or standard output cannot be written;
+     an existing OUT is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
      missing scene or output, wrong output extension
 Every error is reported as one line "korvan-cli: ..." on standard error.

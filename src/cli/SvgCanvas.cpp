@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 namespace {
 
@@ -157,11 +156,4 @@ std::string SvgCanvas::svg() const {
         document += element + "\n";
     }
     return document + "</svg>\n";
-}
-
-bool SvgCanvas::saveFile(const std::string& path) const {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << svg();
-    file.close();
-    return !file.fail();
 }

@@ -31,8 +31,6 @@ public:
 
     // The whole picture as an SVG document.
     std::string svg() const;
-    // Writes svg() to the file; false when it cannot be written.
-    bool saveFile(const std::string& path) const;
 
 private:
     std::string patternFor(int style, int32_t color);

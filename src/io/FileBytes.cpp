@@ -1,36 +1,44 @@
 #include "io/FileBytes.h"
 
-#include <array>
-#include <fstream>
-#include <system_error>
+#include "io/FileError.h"
+
+#include <new>
 
 namespace FileBytes {
 
-std::optional<std::vector<uint8_t>> read(const std::filesystem::path& file, std::uintmax_t from) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        return std::nullopt;
+std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
+                     std::vector<uint8_t>& bytes) {
+    bytes.clear();
+    FileSystem::Handle handle = -1;
+    if (const std::error_code error = system.openToRead(path, handle)) {
+        return error;
     }
-    std::vector<uint8_t> bytes;
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (!error && size > from) {
-        bytes.reserve(static_cast<size_t>(size - from));
+    FileSystem::Status status;
+    std::error_code error = system.statusOf(handle, status);
+    if (!error && status.kind == FileSystem::Kind::Directory) {
+        error = std::make_error_code(std::errc::is_a_directory);
+    } else if (!error && status.kind != FileSystem::Kind::Regular) {
+        error = FileError::notRegularFile;
+    } else if (!error && status.size > from) {
+        try {
+            bytes.resize(static_cast<size_t>(status.size - from));
+        } catch (const std::bad_alloc&) {
+            error = std::make_error_code(std::errc::not_enough_memory); // and the file is closed
+        }
+        size_t filled = 0;
+        size_t count = 1;
+        while (!error && count > 0 && filled < bytes.size()) {
+            // A count of 0 before the size is reached: the file shrank meanwhile.
+            error = system.read(handle, from + filled, std::span(bytes).subspan(filled), count);
+            filled += count;
+        }
+        bytes.resize(filled);
     }
-    if (from > 0 && !in.seekg(static_cast<std::streamoff>(from))) {
-        return std::nullopt;
+    const std::error_code closed = system.close(handle);
+    if (error || closed) {
+        bytes.clear();
     }
-    // Read to the end rather than trusting the size: the file may change meanwhile.
-    std::array<char, 64 * 1024> block;
-    while (in) {
-        in.read(block.data(), block.size());
-        const auto* data = reinterpret_cast<const uint8_t*>(block.data());
-        bytes.insert(bytes.end(), data, data + in.gcount());
-    }
-    if (in.bad()) {
-        return std::nullopt;
-    }
-    return bytes;
+    return error ? error : closed;
 }
 
 } // namespace FileBytes

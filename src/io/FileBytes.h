@@ -1,15 +1,21 @@
 #pragma once
 
+#include "platform/FileSystem.h"
+
 #include <cstdint>
-#include <filesystem>
-#include <optional>
+#include <string>
+#include <system_error>
 #include <vector>
 
 // Whole files in memory.
 namespace FileBytes {
 
-// The bytes of a file from the given offset to its end (none when the file is shorter), or
-// nothing when it cannot be opened or read (a folder, no permission, a read error).
-std::optional<std::vector<uint8_t>> read(const std::filesystem::path& file, std::uintmax_t from);
+// The bytes of a regular file from the given offset (none when the file is shorter) up to the
+// size it had when it was opened, never more: a file that grows meanwhile, or a link to a
+// device that never ends, cannot make the program read without end. Anything but a regular
+// file (a device, a pipe, a folder) is refused with FileError::notRegularFile or the
+// system's own error.
+std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
+                     std::vector<uint8_t>& bytes);
 
 } // namespace FileBytes

@@ -1,120 +1,159 @@
 #include "io/FileOverwriter.h"
 
-#include "io/FileBytes.h"
-
 #include <algorithm>
-#include <atomic>
-#include <cerrno>
-#include <optional>
-#include <string>
-#include <system_error>
+#include <cctype>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
-// Replacing a link by a file would cut it; the file it points to is what the user saves.
-fs::path resolveLink(const fs::path& target) {
-    std::error_code error;
-    if (fs::is_symlink(fs::symlink_status(target, error))) {
-        const fs::path resolved = fs::canonical(target, error);
-        if (!error) {
-            return resolved;
-        }
-    }
-    return target;
+constexpr const char* temporarySuffix = ".korvan-save";
+// The largest piece handed to the system in one write.
+constexpr size_t blockSize = 64 * 1024;
+
+// The name of the temporary that process id writes for a file called name.
+std::string temporaryName(const std::string& name, int id) {
+    return "." + name + "." + std::to_string(id) + temporarySuffix;
 }
 
-// A new, empty file next to the destination, readable and writable by the user (the
-// umask applies, as to any new file); -1 when none can be made.
-int createTemporary(const fs::path& destination, fs::path& temporary) {
-    static std::atomic<unsigned> counter{0};
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        temporary = destination.parent_path() / (".korvan-save-" + std::to_string(::getpid()) +
-                                                 "-" + std::to_string(++counter) + ".tmp");
-        const int descriptor =
-            ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0 || errno != EEXIST) {
-            return descriptor;
-        }
+// The process id in a temporary's name for a file called name; -1 when it is not one.
+int temporaryOwner(const std::string& entry, const std::string& name) {
+    const std::string prefix = "." + name + ".";
+    if (!entry.starts_with(prefix) || !entry.ends_with(temporarySuffix)) {
+        return -1;
     }
-    return -1;
+    const std::string digits =
+        entry.substr(prefix.size(), entry.size() - prefix.size() -
+                                        std::char_traits<char>::length(temporarySuffix));
+    if (digits.empty() || digits.size() > 9 ||
+        !std::all_of(digits.begin(), digits.end(),
+                     [](unsigned char c) { return std::isdigit(c) != 0; })) {
+        return -1;
+    }
+    return std::stoi(digits);
 }
 
-// Makes the rename itself durable. The new file is complete whatever happens here, so a
-// failure only costs durability and is not reported.
-void syncFolder(const fs::path& folder) {
-    const int descriptor =
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        ::fsync(descriptor);
-        ::close(descriptor);
-    }
+bool isPermissionError(const std::error_code& error) {
+    return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+           error == std::errc::read_only_file_system;
 }
 
 } // namespace
 
-bool FileOverwriter::overwrite(const fs::path& target, std::span<const uint8_t> content) const {
-    const fs::path destination = resolveLink(target);
-    if (fails(Step::ReadOld)) {
-        return false;
+std::error_code FileOverwriter::overwrite(const std::string& target,
+                                          std::span<const uint8_t> content) const {
+    std::string destination;
+    if (const std::error_code error = system_.resolve(target, destination)) {
+        return error;
     }
-    std::error_code error;
-    const fs::file_status old = fs::status(destination, error);
-    const bool oldExists = old.type() != fs::file_type::not_found;
-    if (oldExists && (error || ::access(destination.c_str(), W_OK) != 0)) {
-        return false;
+    FileSystem::Status old;
+    const std::error_code missing = system_.status(destination, old);
+    if (missing && missing != std::errc::no_such_file_or_directory) {
+        return missing;
     }
-    std::vector<uint8_t> tail;
-    if (oldExists) {
-        std::optional<std::vector<uint8_t>> bytes = FileBytes::read(destination, content.size());
-        if (!bytes) {
-            return false;
+    if (!missing && old.kind == FileSystem::Kind::Directory) {
+        return std::make_error_code(std::errc::is_a_directory);
+    }
+    // Opening it for writing is the test of whether the user may change it at all.
+    FileSystem::Handle inPlace = -1;
+    if (!missing) {
+        if (const std::error_code error = system_.openToWrite(destination, inPlace)) {
+            return error;
         }
-        tail = std::move(*bytes);
+        if (old.kind != FileSystem::Kind::Regular || old.links > 1) {
+            return writeInPlace(inPlace, old, content);
+        }
     }
 
-    fs::path temporary;
-    const int descriptor = fails(Step::Create) ? -1 : createTemporary(destination, temporary);
-    if (descriptor < 0) {
-        return false;
+    const size_t slash = destination.find_last_of('/');
+    const std::string folder = destination.substr(0, slash + 1);
+    const std::string name = destination.substr(slash + 1);
+    removeStaleTemporaries(folder, name);
+    const std::string temporary = folder + temporaryName(name, system_.processId());
+    FileSystem::Handle handle = -1;
+    const std::error_code created = system_.createNew(temporary, handle);
+    if (created && !missing && isPermissionError(created)) {
+        return writeInPlace(inPlace, old, content);
     }
-    if (oldExists) {
-        fs::permissions(temporary, old.permissions(), fs::perm_options::replace, error);
+    if (!missing) {
+        system_.close(inPlace);
     }
-    const bool written = writeAll(descriptor, content) && writeAll(descriptor, tail) &&
-                         !fails(Step::Sync) && ::fsync(descriptor) == 0;
-    const bool closeFails = fails(Step::Close);
-    const bool closed = ::close(descriptor) == 0 && !closeFails;
-    if (written && closed && !fails(Step::Rename)) {
-        fs::rename(temporary, destination, error);
-        if (!error) {
-            syncFolder(destination.parent_path());
-            return true;
-        }
+    if (created) {
+        return created;
     }
-    fs::remove(temporary, error);
-    return false;
+    const std::error_code error = fillTemporary(handle, missing ? nullptr : &old, content);
+    const std::error_code renamed = error ? error : system_.rename(temporary, destination);
+    if (renamed) {
+        system_.remove(temporary);
+        return renamed;
+    }
+    // The new file is complete whatever happens here; a failure only costs durability.
+    system_.syncFolder(folder);
+    return {};
 }
 
-bool FileOverwriter::writeAll(int descriptor, std::span<const uint8_t> bytes) const {
-    while (!bytes.empty()) {
-        if (fails(Step::Write)) {
-            return false;
+std::error_code FileOverwriter::writeInPlace(FileSystem::Handle handle,
+                                             const FileSystem::Status& old,
+                                             std::span<const uint8_t> content) const {
+    std::error_code error = writeAll(handle, content);
+    // Devices neither shrink nor keep anything to put on a disk.
+    if (!error && old.kind == FileSystem::Kind::Regular) {
+        error = system_.truncate(handle, content.size());
+        if (!error) {
+            error = system_.sync(handle);
         }
-        const ssize_t written =
-            ::write(descriptor, bytes.data(), std::min(bytes.size(), blockSize));
-        if (written < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            return false;
-        }
-        bytes = bytes.subspan(static_cast<size_t>(written));
     }
-    return true;
+    const std::error_code closed = system_.close(handle);
+    return error ? error : closed;
+}
+
+std::error_code FileOverwriter::fillTemporary(FileSystem::Handle handle,
+                                              const FileSystem::Status* old,
+                                              std::span<const uint8_t> content) const {
+    std::error_code error;
+    if (old != nullptr) {
+        // Only the superuser can give a file away; a group the user belongs to can be kept
+        // by anyone. Ownership goes first, since changing it clears set-id bits.
+        if (system_.setOwner(handle, old->owner, old->group)) {
+            system_.setOwner(handle, static_cast<uint32_t>(-1), old->group);
+        }
+        error = system_.setPermissions(handle, old->permissions);
+    }
+    if (!error) {
+        error = writeAll(handle, content);
+    }
+    if (!error) {
+        error = system_.sync(handle);
+    }
+    const std::error_code closed = system_.close(handle);
+    return error ? error : closed;
+}
+
+void FileOverwriter::removeStaleTemporaries(const std::string& folder,
+                                            const std::string& name) const {
+    std::vector<std::string> entries;
+    if (system_.list(folder, entries)) {
+        return;
+    }
+    for (const std::string& entry : entries) {
+        const int id = temporaryOwner(entry, name);
+        if (id >= 0 && (id == system_.processId() || !system_.processRunning(id))) {
+            system_.remove(folder + entry);
+        }
+    }
+}
+
+std::error_code FileOverwriter::writeAll(FileSystem::Handle handle,
+                                         std::span<const uint8_t> bytes) const {
+    while (!bytes.empty()) {
+        size_t count = 0;
+        if (const std::error_code error =
+                system_.write(handle, bytes.first(std::min(bytes.size(), blockSize)), count)) {
+            return error;
+        }
+        if (count == 0) {
+            return std::make_error_code(std::errc::io_error);
+        }
+        bytes = bytes.subspan(count);
+    }
+    return {};
 }

@@ -1,40 +1,42 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <filesystem>
-#include <functional>
-#include <span>
+#include "platform/FileSystem.h"
 
-// Puts new bytes over the start of a file the way writing records into an existing file
-// does: a longer old file keeps its tail behind them. Unlike writing in place, a failure at
-// any step leaves the old file exactly as it was: the complete new content goes to a
-// temporary file in the same folder, is flushed to the disk and closed, and only then
-// renamed over the old name. (A process killed mid-save may leave that temporary file, a
-// hidden ".korvan-save-..." file, behind; the old file is intact even then.)
+#include <cstdint>
+#include <span>
+#include <string>
+#include <system_error>
+
+// Replaces a file's whole content so that a failure at any step leaves the old file as it
+// was and no partial file behind: the new content goes to a temporary file beside the
+// target (".NAME.PID.korvan-save"), is put on the disk and closed, and only then renamed
+// over the target. A later save of the same name removes temporaries that a process killed
+// mid-save left behind.
+//
+// The replacement keeps what the user sees of the old file: its permission bits, its owner
+// and group where the system allows it to be given away, and a symbolic link stays a link
+// (the file it points to is replaced). Three targets are written in place instead, from the
+// start, cut to the new length; a failure there can leave the file part-written:
+// - a file with more than one name (a hard link), so that every name sees the new content;
+// - a writable file in a folder where no temporary may be created;
+// - anything that is not a regular file, such as a device, which a rename would replace.
+// A file that exists but may not be written is a failure, as writing it in place would be.
 class FileOverwriter {
 public:
-    // The steps of an overwrite, in order.
-    enum class Step { ReadOld, Create, Write, Sync, Close, Rename };
-    // Asked before each step (before every block for Write); true makes that step fail as
-    // though the system had refused it. Only tests pass one, to walk every failure path.
-    using FailureProbe = std::function<bool(Step)>;
+    explicit FileOverwriter(FileSystem& system) : system_(system) {}
 
-    // The largest piece handed to the system in one write.
-    static constexpr size_t blockSize = 64 * 1024;
-
-    FileOverwriter() = default;
-    explicit FileOverwriter(FailureProbe probe) : probe_(std::move(probe)) {}
-
-    // False after any failure, with the old file untouched and no temporary file left. A
-    // file that exists but may not be written is a failure, as opening it for writing
-    // would be. A symbolic link stays a link: the file it points to is replaced. The new
-    // file keeps the old one's permissions where the file system allows.
-    bool overwrite(const std::filesystem::path& target, std::span<const uint8_t> content) const;
+    // The empty error code when the whole content was written and closed.
+    std::error_code overwrite(const std::string& target, std::span<const uint8_t> content) const;
 
 private:
-    bool fails(Step step) const { return probe_ && probe_(step); }
-    bool writeAll(int descriptor, std::span<const uint8_t> bytes) const;
+    std::error_code writeAll(FileSystem::Handle handle, std::span<const uint8_t> bytes) const;
+    std::error_code writeInPlace(FileSystem::Handle handle, const FileSystem::Status& old,
+                                 std::span<const uint8_t> content) const;
+    // Gives a new temporary the old file's owner and permissions (old is null for a new
+    // file), writes the content, puts it on the disk and closes it.
+    std::error_code fillTemporary(FileSystem::Handle handle, const FileSystem::Status* old,
+                                  std::span<const uint8_t> content) const;
+    void removeStaleTemporaries(const std::string& folder, const std::string& name) const;
 
-    FailureProbe probe_;
+    FileSystem& system_;
 };

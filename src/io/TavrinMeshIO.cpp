@@ -2,15 +2,20 @@
 
 #include "geometry/CPoint3D.h"
 #include "io/FileBytes.h"
+#include "io/FileError.h"
+#include "io/FileOverwriter.h"
 #include "io/LittleEndianReader.h"
 #include "io/LittleEndianWriter.h"
+#include "io/PosixFileSystem.h"
 #include "scene/Face3d.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <new>
+#include <type_traits>
 
 namespace {
 
@@ -28,88 +33,160 @@ bool fits(const LittleEndianReader& in, int32_t count, uint64_t recordBytes,
     return count >= 0 && static_cast<uint64_t>(count) * recordBytes + afterBytes <= in.remaining();
 }
 
-bool readFinite(LittleEndianReader& in, float& value) {
-    return in.readFloat32(value) && std::isfinite(value);
+// The one rule for the values of the file, kept by the writer and checked by the reader.
+bool storable(float value) {
+    return std::isfinite(value);
 }
 
-std::shared_ptr<Face3d> readFace(LittleEndianReader& in, Solid3d& solid, int32_t pointCount) {
-    auto face = std::make_shared<Face3d>();
-    face->setSolidContainer(&solid);
-    int32_t orderNumber;
-    int32_t indexCount;
-    if (!in.readInt32(orderNumber) || !in.readInt32(indexCount) ||
-        !fits(in, indexCount, valueBytes, coefficientBytes)) {
-        return nullptr;
-    }
-    face->setOrderNumber(orderNumber);
-    for (int32_t i = 0; i < indexCount; ++i) {
-        int32_t index;
-        if (!in.readInt32(index) || index < 1 || index > pointCount) {
-            return nullptr;
-        }
-        face->addIndex(index);
-    }
-    // The file keeps the ambient triple before the diffuse one.
-    for (float* coefficient :
-         {&face->AmbientKr, &face->AmbientKg, &face->AmbientKb, &face->DiffuseKr, &face->DiffuseKg,
-          &face->DiffuseKb, &face->SpecularK, &face->SpecularN}) {
-        if (!readFinite(in, *coefficient)) {
-            return nullptr;
-        }
-    }
-    // Shading multiplies once per unit of the exponent: a huge one stalls drawing for
-    // seconds per face.
-    if (face->SpecularN < std::numeric_limits<int16_t>::min() ||
-        face->SpecularN > std::numeric_limits<int16_t>::max()) {
-        return nullptr;
-    }
-    return face;
+bool storableExponent(float exponent) {
+    return exponent >= std::numeric_limits<int16_t>::min() &&
+           exponent <= std::numeric_limits<int16_t>::max();
 }
 
-std::shared_ptr<Solid3d> readSolid(LittleEndianReader& in) {
-    auto solid = std::make_shared<Solid3d>();
-    int32_t pointCount;
-    if (!in.readInt32(pointCount) || !fits(in, pointCount, pointBytes, valueBytes)) {
-        return nullptr;
-    }
-    std::vector<float> coordinates(3 * static_cast<size_t>(pointCount));
-    for (float& c : coordinates) {
-        if (!readFinite(in, c)) {
-            return nullptr;
-        }
-    }
-    solid->addPointsArray(coordinates);
-    int32_t faceCount;
-    if (!in.readInt32(faceCount) || !fits(in, faceCount, minFaceBytes)) {
-        return nullptr;
-    }
-    solid->faces.reserve(static_cast<size_t>(faceCount));
-    for (int32_t i = 0; i < faceCount; ++i) {
-        std::shared_ptr<Face3d> face = readFace(in, *solid, pointCount);
-        if (!face) {
-            return nullptr;
-        }
-        solid->AddFace3D(face);
-    }
-    return solid;
+bool readStorable(LittleEndianReader& in, float& value) {
+    return in.readFloat32(value) && storable(value);
 }
+
+// Walks the records of the file, checking every one, and hands them to a builder, which
+// makes of them what its caller needs: the objects themselves, or only their counts.
+// False when the bytes are not a valid mesh file.
+template <class Builder> bool readObjects(LittleEndianReader& in, Builder& builder) {
+    int32_t objectCount;
+    if (!in.readInt32(objectCount)) {
+        return false;
+    }
+    if (objectCount <= 0) {
+        return true;
+    }
+    if (!fits(in, objectCount, minObjectBytes)) {
+        return false;
+    }
+    builder.reserveObjects(objectCount);
+    std::vector<int32_t> indices;
+    for (int32_t i = 0; i < objectCount; ++i) {
+        int32_t pointCount;
+        if (!in.readInt32(pointCount) || !fits(in, pointCount, pointBytes, valueBytes)) {
+            return false;
+        }
+        builder.beginObject(pointCount);
+        for (int32_t p = 0; p < pointCount; ++p) {
+            float x;
+            float y;
+            float z;
+            if (!readStorable(in, x) || !readStorable(in, y) || !readStorable(in, z)) {
+                return false;
+            }
+            builder.point(x, y, z);
+        }
+        int32_t faceCount;
+        if (!in.readInt32(faceCount) || !fits(in, faceCount, minFaceBytes)) {
+            return false;
+        }
+        builder.beginFaces(faceCount);
+        for (int32_t f = 0; f < faceCount; ++f) {
+            int32_t orderNumber;
+            int32_t indexCount;
+            if (!in.readInt32(orderNumber) || !in.readInt32(indexCount) ||
+                !fits(in, indexCount, valueBytes, coefficientBytes)) {
+                return false;
+            }
+            indices.resize(static_cast<size_t>(indexCount));
+            for (int32_t& index : indices) {
+                if (!in.readInt32(index) || index < 1 || index > pointCount) {
+                    return false;
+                }
+            }
+            // In file order: the ambient triple, the diffuse triple, SpecularK, SpecularN.
+            std::array<float, 8> coefficients;
+            for (float& coefficient : coefficients) {
+                if (!readStorable(in, coefficient)) {
+                    return false;
+                }
+            }
+            if (!storableExponent(coefficients[7])) {
+                return false;
+            }
+            builder.face(orderNumber, indices, coefficients);
+        }
+    }
+    return true;
+}
+
+// Builds the scene objects, each with a new solid.
+class ObjectBuilder {
+public:
+    void reserveObjects(int32_t count) { objects.reserve(static_cast<size_t>(count)); }
+    void beginObject(int32_t pointCount) {
+        solid_ = std::make_shared<Solid3d>();
+        coordinates_.clear();
+        coordinates_.reserve(3 * static_cast<size_t>(pointCount));
+        auto object = std::make_shared<Transformed3d>();
+        object->setSolid(solid_);
+        objects.push_back(object);
+    }
+    void point(float x, float y, float z) { coordinates_.insert(coordinates_.end(), {x, y, z}); }
+    void beginFaces(int32_t faceCount) {
+        solid_->addPointsArray(coordinates_);
+        solid_->faces.reserve(static_cast<size_t>(faceCount));
+    }
+    void face(int32_t orderNumber, std::span<const int32_t> indices,
+              const std::array<float, 8>& k) {
+        auto face = std::make_shared<Face3d>();
+        face->setSolidContainer(solid_.get());
+        face->setOrderNumber(orderNumber);
+        face->SetPoints({indices.begin(), indices.end()});
+        face->AmbientKr = k[0];
+        face->AmbientKg = k[1];
+        face->AmbientKb = k[2];
+        face->DiffuseKr = k[3];
+        face->DiffuseKg = k[4];
+        face->DiffuseKb = k[5];
+        face->SpecularK = k[6];
+        face->SpecularN = k[7];
+        solid_->AddFace3D(face);
+    }
+
+    ObjectList objects;
+
+private:
+    std::shared_ptr<Solid3d> solid_;
+    std::vector<float> coordinates_;
+};
+
+// Keeps only how many points and faces each object has.
+class CountBuilder {
+public:
+    void reserveObjects(int32_t count) { counts.reserve(static_cast<size_t>(count)); }
+    void beginObject(int32_t pointCount) { counts.push_back({pointCount, 0}); }
+    void point(float, float, float) {}
+    void beginFaces(int32_t faceCount) { counts.back().faces = faceCount; }
+    void face(int32_t, std::span<const int32_t>, const std::array<float, 8>&) {}
+
+    std::vector<TavrinMeshIO::ObjectCounts> counts;
+};
 
 // Counts are written as int32: the model itself numbers points, faces and corners in 32 bits.
 int32_t countOf(size_t size) {
     return static_cast<int32_t>(size);
 }
 
-std::vector<uint8_t> encode(const ObjectList& objects) {
+// The file's bytes for the objects, or nothing when a value breaks the file's rule.
+std::optional<std::vector<uint8_t>> encode(const ObjectList& objects) {
     LittleEndianWriter out;
+    bool valid = true;
+    const auto writeValue = [&](float value) {
+        valid = valid && storable(value);
+        out.writeFloat32(value);
+    };
     out.writeInt32(countOf(objects.size()));
     for (const auto& object : objects) {
         const auto points = object->getPoints();
         out.writeInt32(countOf(points.size()));
         for (const auto& point : points) {
             const Point4 c = point->getRecord().coord;
-            out.writeFloat32(c.x);
-            out.writeFloat32(c.y);
-            out.writeFloat32(c.z);
+            writeValue(c.x);
+            writeValue(c.y);
+            writeValue(c.z);
         }
         const FaceList faces = object->getFaces();
         out.writeInt32(countOf(faces.size()));
@@ -123,57 +200,99 @@ std::vector<uint8_t> encode(const ObjectList& objects) {
             for (const float coefficient :
                  {face->AmbientKr, face->AmbientKg, face->AmbientKb, face->DiffuseKr,
                   face->DiffuseKg, face->DiffuseKb, face->SpecularK, face->SpecularN}) {
-                out.writeFloat32(coefficient);
+                writeValue(coefficient);
             }
+            valid = valid && storableExponent(face->SpecularN);
         }
+    }
+    if (!valid) {
+        return std::nullopt;
     }
     return out.take();
 }
 
+// The bytes of the old file behind the new content, which a save keeps; none when there is
+// no old file or it is not one that keeps bytes.
+std::error_code oldTail(FileSystem& system, const std::string& file, uint64_t from,
+                        std::vector<uint8_t>& tail) {
+    const std::error_code error = FileBytes::read(system, file, from, tail);
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::is_a_directory ||
+        error == FileError::notRegularFile) {
+        return {}; // writing reports what is wrong with it, if anything
+    }
+    return error;
+}
+
 } // namespace
 
+TavrinMeshIO::TavrinMeshIO() : system_(PosixFileSystem::instance()) {}
+
 bool TavrinMeshIO::saveFile(const ObjectList& solids, std::string filename) {
+    filename = normalizeFileName(filename);
     try {
-        return overwriter_.overwrite(normalizeFileName(filename), encode(solids));
+        std::optional<std::vector<uint8_t>> content = encode(solids);
+        if (!content) {
+            lastError_ = FileError::unstorableValue;
+            return false;
+        }
+        std::vector<uint8_t> tail;
+        lastError_ = oldTail(system_, filename, content->size(), tail);
+        if (!lastError_) {
+            content->insert(content->end(), tail.begin(), tail.end());
+            lastError_ = FileOverwriter(system_).overwrite(filename, *content);
+        }
     } catch (const std::bad_alloc&) {
-        return false;
+        lastError_ = std::make_error_code(std::errc::not_enough_memory);
     }
+    return !lastError_;
+}
+
+template <class Interpret>
+std::invoke_result_t<Interpret, std::span<const uint8_t>>
+TavrinMeshIO::readFile(std::string& filename, Interpret interpret) {
+    filename = normalizeFileName(filename);
+    std::invoke_result_t<Interpret, std::span<const uint8_t>> result;
+    try {
+        std::vector<uint8_t> bytes;
+        lastError_ = FileBytes::read(system_, filename, 0, bytes);
+        if (!lastError_) {
+            result = interpret(bytes);
+            if (!result) {
+                lastError_ = FileError::corrupt;
+            }
+        }
+    } catch (const std::bad_alloc&) {
+        lastError_ = std::make_error_code(std::errc::not_enough_memory);
+    }
+    return result;
 }
 
 std::optional<ObjectList> TavrinMeshIO::OpenFile(std::string& filename) {
-    filename = normalizeFileName(filename);
-    try {
-        const std::optional<std::vector<uint8_t>> bytes = FileBytes::read(filename, 0);
-        return bytes ? parse(*bytes) : std::nullopt;
-    } catch (const std::bad_alloc&) {
-        return std::nullopt;
-    }
+    return readFile(filename, &TavrinMeshIO::parse);
+}
+
+std::optional<std::vector<TavrinMeshIO::ObjectCounts>>
+TavrinMeshIO::countFile(std::string& filename) {
+    return readFile(filename, &TavrinMeshIO::count);
 }
 
 std::optional<ObjectList> TavrinMeshIO::parse(std::span<const uint8_t> bytes) {
     LittleEndianReader in(bytes);
-    int32_t objectCount;
-    if (!in.readInt32(objectCount)) {
+    ObjectBuilder builder;
+    if (!readObjects(in, builder)) {
         return std::nullopt;
     }
-    ObjectList objects;
-    if (objectCount <= 0) {
-        return objects;
-    }
-    if (!fits(in, objectCount, minObjectBytes)) {
+    return std::move(builder.objects);
+}
+
+std::optional<std::vector<TavrinMeshIO::ObjectCounts>>
+TavrinMeshIO::count(std::span<const uint8_t> bytes) {
+    LittleEndianReader in(bytes);
+    CountBuilder builder;
+    if (!readObjects(in, builder)) {
         return std::nullopt;
     }
-    objects.reserve(static_cast<size_t>(objectCount));
-    for (int32_t i = 0; i < objectCount; ++i) {
-        std::shared_ptr<Solid3d> solid = readSolid(in);
-        if (!solid) {
-            return std::nullopt;
-        }
-        auto object = std::make_shared<Transformed3d>();
-        object->setSolid(solid);
-        objects.push_back(object);
-    }
-    return objects;
+    return std::move(builder.counts);
 }
 
 std::string TavrinMeshIO::normalizeFileName(const std::string& name) {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-Solid3d::Solid3d() : points_(2), transformed_(2, 0) {}
+Solid3d::Solid3d() = default;
 
 Solid3d::~Solid3d() {
     // Faces may outlive their solid in a selection; they must not point at freed memory.
@@ -30,6 +30,11 @@ void Solid3d::addPoints(std::span<const double> values) {
 }
 
 void Solid3d::addPointsArray(std::span<const float> values) {
+    // Room for all at once: growing point by point could take twice the memory.
+    if (const size_t added = values.size() / 3; added > 0) {
+        points_.reserve(static_cast<size_t>(nextPointIndex_) + added);
+        transformed_.reserve(points_.capacity());
+    }
     for (size_t i = 0; i + 2 < values.size(); i += 3) {
         appendPointRecord(
             PointRecord{Point4{values[i], values[i + 1], values[i + 2], 1.0f}, {}, {}});
@@ -48,6 +53,7 @@ void Solid3d::appendPointRecord(const PointRecord& record) {
 }
 
 void Solid3d::setPointRecord(int32_t index, const PointRecord& record) {
+    makeStorage();
     points_[static_cast<size_t>(index)] = record;
 }
 
@@ -74,7 +80,7 @@ std::vector<std::shared_ptr<CPoint3D>> Solid3d::getPoints() const {
     std::vector<std::shared_ptr<CPoint3D>> result;
     for (int32_t i = 1; i <= getPointUpperBound(); ++i) {
         PointRecord record;
-        record.coord = points_[static_cast<size_t>(i)].coord;
+        record.coord = getPointRecord(i).coord;
         auto point = std::make_shared<CPoint3D>();
         point->setRecord(record);
         result.push_back(point);

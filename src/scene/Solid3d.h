@@ -48,13 +48,16 @@ public:
     FaceList copyFaceList() const { return faces; }
 
     // The point records, 1 to getPointUpperBound(); the number of added points is
-    // getNextPointIndex() - 1.
+    // getNextPointIndex() - 1. A solid without points holds no storage for its one record at
+    // the origin until something writes it: a file of many empty objects stays small.
     const PointRecord& getPointRecord(int32_t index) const {
-        return points_[static_cast<size_t>(index)];
+        return points_.empty() ? origin_ : points_[static_cast<size_t>(index)];
     }
     void setPointRecord(int32_t index, const PointRecord& record);
     void appendPointRecord(const PointRecord& record);
-    int32_t getPointUpperBound() const { return static_cast<int32_t>(points_.size()) - 1; }
+    int32_t getPointUpperBound() const {
+        return points_.empty() ? 1 : static_cast<int32_t>(points_.size()) - 1;
+    }
     int32_t getNextPointIndex() const { return nextPointIndex_; }
 
     void SetDiffuseCoefficients(float kr, float kg, float kb);
@@ -64,9 +67,12 @@ public:
     void setSpecularN(float value);
 
     bool hasTransformedPoint(int32_t index) const {
-        return transformed_[static_cast<size_t>(index)] != 0;
+        return !transformed_.empty() && transformed_[static_cast<size_t>(index)] != 0;
     }
-    void activateTransformedPoint(int32_t index) { transformed_[static_cast<size_t>(index)] = 1; }
+    void activateTransformedPoint(int32_t index) {
+        makeStorage();
+        transformed_[static_cast<size_t>(index)] = 1;
+    }
     void resetTransformedPoints();
 
     void ApplyFull(const Matrix4& M, bool toCoord2);
@@ -105,13 +111,22 @@ public:
 private:
     friend class Face3d;
     PointRecord& pointRecordForTransform(int32_t index) {
+        makeStorage();
         return points_[static_cast<size_t>(index)];
+    }
+    // Index 0 unused and the origin record at 1.
+    void makeStorage() {
+        if (points_.empty()) {
+            points_.resize(2);
+            transformed_.resize(2, 0);
+        }
     }
     FaceList paintOrder() const;
     template <class Each>
     void forEachRegionFace(bool useSortedFaces, bool excludeCulledFaces, Each each) const;
 
-    std::vector<PointRecord> points_; // index 0 unused
+    static inline const PointRecord origin_{};
+    std::vector<PointRecord> points_; // index 0 unused; empty until needed
     int32_t nextPointIndex_ = 1;
     std::vector<uint8_t> transformed_; // index 0 unused
     bool visible_ = false;

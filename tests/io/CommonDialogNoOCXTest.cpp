@@ -18,7 +18,6 @@ TEST(CommonDialogNoOCX, OpenFileHandsTitleAndFilterOverAndReturnsThePathOrNothin
     EXPECT_EQ(files.requests()[0].filter, "Tavrin Mesh File(*.tvm)|*.tvm");
     EXPECT_EQ(files.requests()[1].title, "Open File");
     EXPECT_EQ(files.requests()[1].filter, "Devide Dependent Bitmap(*.bmp)|*.bmp");
-    EXPECT_TRUE(colors.initialColors().empty());
 }
 
 TEST(CommonDialogNoOCX, GetColorTellsBlackFromCancel) {
@@ -32,5 +31,4 @@ TEST(CommonDialogNoOCX, GetColorTellsBlackFromCancel) {
     EXPECT_EQ(dialog.getColor(), 255 + 256 * 128 + 65536 * 1);
     EXPECT_EQ(dialog.getColor(), -1);
     EXPECT_EQ(colors.initialColors(), (std::vector<int32_t>{0, 0, 0}));
-    EXPECT_TRUE(files.requests().empty());
 }

@@ -2,7 +2,9 @@
 
 #include "app/SceneDocument.h"
 #include "io/FileBytes.h"
+#include "io/FileError.h"
 #include "io/LittleEndianWriter.h"
+#include "io/PosixFileSystem.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
@@ -10,8 +12,14 @@
 #include "support/ScriptedPrompts.h"
 #include "support/TestSolids.h"
 
+#include "support/FaultyFileSystem.h"
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -46,10 +54,16 @@ struct Values {
     Bytes bytes() { return out.take(); }
 };
 
+Bytes contentOf(const std::string& file) {
+    Bytes bytes;
+    EXPECT_FALSE(FileBytes::read(PosixFileSystem::instance(), file, 0, bytes)) << file;
+    return bytes;
+}
+
 // Saves, expecting success, and returns the file's bytes.
 Bytes saved(const ObjectList& objects, const std::string& file) {
     EXPECT_TRUE(TavrinMeshIO().saveFile(objects, file));
-    return FileBytes::read(TavrinMeshIO::normalizeFileName(file), 0).value();
+    return contentOf(TavrinMeshIO::normalizeFileName(file));
 }
 
 std::shared_ptr<Transformed3d> objectWith(std::shared_ptr<Solid3d> solid) {
@@ -228,47 +242,70 @@ TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
     EXPECT_GT(accepted, 0u); // coordinates and coefficients take most values
 }
 
-TEST(TavrinMeshIO, FailedSaveLeavesTheOldFileAsItWasAndNoTemporaryFile) {
-    // The old file spans several write blocks, so that a write can fail half-way.
-    auto big = std::make_shared<Solid3d>();
-    big->addPointsArray(std::vector<float>(3 * FileOverwriter::blockSize / 4, 1.5f));
+TEST(TavrinMeshIO, SavesEveryValueTheEditorMakesOrRefusesTheDocumentKeepingTheOldFile) {
+    TempFolder folder;
+    const std::string file = folder.file("values.tvm");
+    // The extremes that read back bit for bit (mixedDocument has the rest).
+    auto solid = makeCube();
+    solid->SetSpecularCoefficients(std::numeric_limits<float>::max(), -32768);
+    const Bytes old = saved({objectWith(solid)}, file);
+    std::string name = file;
+    EXPECT_EQ(saved(TavrinMeshIO().OpenFile(name).value(), folder.file("again.tvm")), old);
+
+    // What an extrusion that overflows or a typed exponent can make, the reader would refuse.
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float inf = std::numeric_limits<float>::infinity();
+    const std::vector<std::pair<const char*, std::function<void(Solid3d&)>>> breaks = {
+        {"exponent 32768", [](Solid3d& s) { s.setSpecularN(32768); }},
+        {"exponent -32769", [](Solid3d& s) { s.setSpecularN(-32769); }},
+        {"NaN coefficient", [&](Solid3d& s) { s.setSpecularK(nan); }},
+        {"infinite coefficient", [&](Solid3d& s) { s.SetDiffuseCoefficients(0, -inf, 0); }},
+        {"infinite coordinate",
+         [&](Solid3d& s) {
+             s.addPointsArray(std::vector{inf, 0.f, 0.f});
+         }},
+        {"NaN coordinate",
+         [&](Solid3d& s) {
+             s.addPointsArray(std::vector{0.f, 0.f, nan});
+         }},
+    };
+    for (const auto& [what, breakIt] : breaks) {
+        auto broken = makeCube();
+        breakIt(*broken);
+        TavrinMeshIO io;
+        EXPECT_FALSE(io.saveFile({objectWith(broken)}, file)) << what;
+        EXPECT_EQ(io.getLastError(), FileError::unstorableValue) << what;
+        EXPECT_EQ(contentOf(file), old) << what;
+    }
+}
+
+TEST(TavrinMeshIO, OpenFailuresSayWhatHappened) {
     TempFolder folder;
     const std::string file = folder.file("scene.tvm");
-    const Bytes old = saved({objectWith(big)}, file);
-    const auto perms = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-    fs::permissions(file, perms);
-
-    // Fails each step in turn until the save gets through; the steps of that save.
-    using Step = FileOverwriter::Step;
-    const auto failEachStep = [&](const std::string& target) {
-        std::vector<Step> steps;
-        for (size_t failing = 0; failing < 100; ++failing) {
-            steps.clear();
-            TavrinMeshIO io(FileOverwriter([&](Step step) {
-                steps.push_back(step);
-                return steps.size() == failing + 1;
-            }));
-            if (io.saveFile(triangleDocument(), target)) {
-                return steps;
-            }
-            EXPECT_EQ(FileBytes::read(file, 0), old) << failing;
-            EXPECT_EQ(folder.entries(), std::vector<fs::path>{file}) << failing;
-        }
-        return std::vector<Step>{};
+    saved(triangleDocument(), file);
+    const auto openError = [](FileSystem& system, std::string name) {
+        TavrinMeshIO io(system);
+        EXPECT_FALSE(io.OpenFile(name));
+        return io.getLastError();
     };
-    EXPECT_EQ(failEachStep(folder.file("new.tvm")),
-              (std::vector<Step>{Step::ReadOld, Step::Create, Step::Write, Step::Sync, Step::Close,
-                                 Step::Rename}));
-    fs::remove(folder.file("new.tvm"));
-    EXPECT_GE(failEachStep(file).size(), 9u); // the old tail takes several blocks
-    EXPECT_EQ(fs::status(file).permissions(), perms);
-
-    // Failures of the system itself.
-    TavrinMeshIO io;
-    EXPECT_FALSE(io.saveFile({}, folder.file("no such folder/x.tvm")));
-    std::string aFolder = folder.file("folder.tvm");
-    fs::create_directory(aFolder);
-    EXPECT_FALSE(io.saveFile({}, aFolder));
-    EXPECT_TRUE(fs::is_directory(aFolder));
-    EXPECT_FALSE(io.OpenFile(aFolder));
+    PosixFileSystem& real = PosixFileSystem::instance();
+    // Runs as root in the build, so a refused permission is injected.
+    FaultyFileSystem unreadable;
+    unreadable.failAll(FaultyFileSystem::Call::openToRead, std::errc::permission_denied);
+    EXPECT_EQ(openError(unreadable, file), std::errc::permission_denied);
+    EXPECT_EQ(openError(real, folder.file("missing.tvm")), std::errc::no_such_file_or_directory);
+    fs::create_symlink("loop.tvm", folder.file("loop.tvm"));
+    EXPECT_EQ(openError(real, folder.file("loop.tvm")), std::errc::too_many_symbolic_link_levels);
+    fs::create_directory(folder.file("folder.tvm"));
+    EXPECT_EQ(openError(real, folder.file("folder.tvm")), std::errc::is_a_directory);
+    // A device that never ends and a pipe that no one writes are not read at all.
+    fs::create_symlink("/dev/zero", folder.file("zero.tvm"));
+    EXPECT_EQ(openError(real, folder.file("zero.tvm")), FileError::notRegularFile);
+    ASSERT_EQ(::mkfifo(folder.file("pipe.tvm").c_str(), 0600), 0);
+    EXPECT_EQ(openError(real, folder.file("pipe.tvm")), FileError::notRegularFile);
+    Bytes cut = contentOf(file);
+    cut.pop_back();
+    std::ofstream(folder.file("cut.tvm"), std::ios::binary)
+        .write(reinterpret_cast<const char*>(cut.data()), std::ssize(cut));
+    EXPECT_EQ(openError(real, folder.file("cut.tvm")), FileError::corrupt);
 }

@@ -1,0 +1,161 @@
+#include "io/FileOverwriter.h"
+
+#include "support/FaultyFileSystem.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+// A fresh folder per test, removed with everything in it afterwards.
+struct TempFolder {
+    fs::path path = fs::temp_directory_path() /
+                    ("korvan-overwrite-" + std::to_string(::getpid()) + "-" +
+                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    TempFolder() { fs::create_directories(path); }
+    ~TempFolder() { fs::remove_all(path); }
+    std::string file(const std::string& name) const { return (path / name).string(); }
+    std::vector<fs::path> entries() const { return {fs::directory_iterator(path), {}}; }
+};
+
+Bytes contentOf(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// Writes in place, so that the file keeps its name, links and status.
+void put(const std::string& file, const Bytes& bytes) {
+    std::ofstream(file, std::ios::binary | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+}
+
+// Several write blocks long, so that a write can fail half-way.
+const Bytes oldContent(200 * 1024, 'o');
+const Bytes newContent(150 * 1024, 'n');
+
+} // namespace
+
+TEST(FileOverwriter, AnyFailingCallLeavesTheOldFileAndNoPartialFile) {
+    TempFolder folder;
+    for (const bool exists : {true, false}) {
+        const std::string file = folder.file(exists ? "old.bin" : "new.bin");
+        FaultyFileSystem counting;
+        if (exists) {
+            put(file, oldContent);
+        }
+        ASSERT_EQ(FileOverwriter(counting).overwrite(file, newContent), std::error_code());
+        for (size_t failing = 0; failing < counting.callCount(); ++failing) {
+            if (exists) {
+                put(file, oldContent);
+            } else {
+                fs::remove(file);
+            }
+            FaultyFileSystem faulty;
+            faulty.failCallNumber(failing);
+            const bool written = !FileOverwriter(faulty).overwrite(file, newContent);
+            if (written) {
+                EXPECT_EQ(contentOf(file), newContent) << failing;
+            } else if (exists) {
+                EXPECT_EQ(contentOf(file), oldContent) << failing;
+            } else {
+                EXPECT_FALSE(fs::exists(file)) << failing;
+            }
+            EXPECT_EQ(folder.entries().size(), exists ? 1u : size_t{written}) << failing;
+        }
+        fs::remove(file);
+    }
+}
+
+TEST(FileOverwriter, KeepsPermissionsOwnerAndLinksAndCleansUpAfterADeadSave) {
+    TempFolder folder;
+    const std::string file = folder.file("scene.tvm");
+    put(file, oldContent);
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    const bool root = ::geteuid() == 0; // only the superuser may give a file away
+    if (root) {
+        ASSERT_EQ(::chown(file.c_str(), 4321, 4321), 0);
+    }
+    const std::string dead = folder.file(".scene.tvm.4194999.korvan-save"); // beyond pid_max
+    const std::string ours = folder.file(".scene.tvm." + std::to_string(::getpid()) +
+                                         ".korvan-save"); // a failed save of ours
+    const std::string living = folder.file(".scene.tvm.1.korvan-save");
+    const std::string otherFile = folder.file(".other.tvm.4194999.korvan-save");
+    for (const std::string& temporary : {dead, ours, living, otherFile}) {
+        put(temporary, {});
+    }
+    PosixFileSystem& system = PosixFileSystem::instance();
+    ASSERT_EQ(FileOverwriter(system).overwrite(file, newContent), std::error_code());
+    EXPECT_EQ(contentOf(file), newContent);
+    struct stat info {};
+    ASSERT_EQ(::stat(file.c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0640u);
+    if (root) {
+        EXPECT_EQ(info.st_uid, 4321u);
+        EXPECT_EQ(info.st_gid, 4321u);
+    }
+    EXPECT_FALSE(fs::exists(dead));
+    EXPECT_FALSE(fs::exists(ours));
+    EXPECT_TRUE(fs::exists(living));
+    EXPECT_TRUE(fs::exists(otherFile));
+
+    // A second name sees the new content, cut to its length.
+    const std::string second = folder.file("second name.tvm");
+    fs::create_hard_link(file, second);
+    const Bytes shorter(10, 's');
+    ASSERT_EQ(FileOverwriter(system).overwrite(file, shorter), std::error_code());
+    EXPECT_TRUE(fs::equivalent(file, second));
+    EXPECT_EQ(contentOf(second), shorter);
+    fs::remove(second);
+
+    // A link stays a link to the file it names.
+    const std::string link = folder.file("link.tvm");
+    fs::create_symlink("scene.tvm", link);
+    ASSERT_EQ(FileOverwriter(system).overwrite(link, oldContent), std::error_code());
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(contentOf(file), oldContent);
+    // Also when the file it names does not exist yet.
+    const std::string dangling = folder.file("dangling.tvm");
+    fs::create_symlink("made through the link.tvm", dangling);
+    ASSERT_EQ(FileOverwriter(system).overwrite(dangling, newContent), std::error_code());
+    EXPECT_TRUE(fs::is_symlink(dangling));
+    EXPECT_EQ(contentOf(folder.file("made through the link.tvm")), newContent);
+}
+
+TEST(FileOverwriter, WritesInPlaceOnlyWhereNoTemporaryMayBeMade) {
+    TempFolder folder;
+    const std::string file = folder.file("scene.tvm");
+    put(file, oldContent);
+    struct stat before {};
+    ASSERT_EQ(::stat(file.c_str(), &before), 0);
+    // The root user may create files in any folder, so the refusal is injected.
+    FaultyFileSystem readOnlyFolder;
+    readOnlyFolder.failAll(FaultyFileSystem::Call::createNew, std::errc::permission_denied);
+    ASSERT_EQ(FileOverwriter(readOnlyFolder).overwrite(file, newContent), std::error_code());
+    EXPECT_EQ(contentOf(file), newContent);
+    struct stat after {};
+    ASSERT_EQ(::stat(file.c_str(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+
+    // A new file cannot be written in place, nor a file the user may not change, nor one
+    // where the disk is full.
+    EXPECT_EQ(FileOverwriter(readOnlyFolder).overwrite(folder.file("new.tvm"), newContent),
+              std::errc::permission_denied);
+    FaultyFileSystem readOnlyFile;
+    readOnlyFile.failAll(FaultyFileSystem::Call::openToWrite, std::errc::permission_denied);
+    EXPECT_EQ(FileOverwriter(readOnlyFile).overwrite(file, oldContent),
+              std::errc::permission_denied);
+    FaultyFileSystem fullDisk;
+    fullDisk.failAll(FaultyFileSystem::Call::createNew, std::errc::no_space_on_device);
+    EXPECT_EQ(FileOverwriter(fullDisk).overwrite(file, oldContent), std::errc::no_space_on_device);
+    EXPECT_EQ(contentOf(file), newContent);
+    EXPECT_EQ(FileOverwriter(PosixFileSystem::instance()).overwrite(folder.path.string(), {}),
+              std::errc::is_a_directory);
+    EXPECT_EQ(folder.entries().size(), 1u);
+}
