@@ -114,7 +114,7 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
     }
 }
 
-// Reads the scene with read (OpenFile or countFile), or throws with what went wrong.
+// Reads the scene with read (openDrawable or countFile), or throws with what went wrong.
 template <class Read> auto CliApp::readScene(const std::string& path, Read read) const {
     // The reader cleans names as it does those from the file dialog; a name it would change
     // would make it read a different file.
@@ -144,7 +144,8 @@ void CliApp::writeOutput(const std::string& path, std::span<const uint8_t> conte
 
 void CliApp::render(const CliOptions& options) const {
     SceneDocument document = SceneDocument::startUp();
-    document.solids = readScene(options.scene, &TavrinMeshIO::OpenFile);
+    // Objects without faces change nothing in the picture: leave them out.
+    document.solids = readScene(options.scene, &TavrinMeshIO::openDrawable);
     document.showGrid = !options.noGrid;
     document.showZeroAxes = !options.noAxes;
     document.showReferenceAxes = !options.noAxes;

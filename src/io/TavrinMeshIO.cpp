@@ -112,10 +112,16 @@ template <class Builder> bool readObjects(LittleEndianReader& in, Builder& build
     return true;
 }
 
-// Builds the scene objects, each with a new solid.
+// Builds the scene objects, each with a new solid; without keepFaceless, only those that
+// have faces.
 class ObjectBuilder {
 public:
-    void reserveObjects(int32_t count) { objects.reserve(static_cast<size_t>(count)); }
+    explicit ObjectBuilder(bool keepFaceless) : keepFaceless_(keepFaceless) {}
+    void reserveObjects(int32_t count) {
+        if (keepFaceless_) {
+            objects.reserve(static_cast<size_t>(count));
+        }
+    }
     void beginObject(int32_t pointCount) {
         solid_ = std::make_shared<Solid3d>();
         coordinates_.clear();
@@ -126,6 +132,10 @@ public:
     }
     void point(float x, float y, float z) { coordinates_.insert(coordinates_.end(), {x, y, z}); }
     void beginFaces(int32_t faceCount) {
+        if (faceCount == 0 && !keepFaceless_) {
+            objects.pop_back();
+            return;
+        }
         solid_->addPointsArray(coordinates_);
         solid_->faces.reserve(static_cast<size_t>(faceCount));
     }
@@ -149,6 +159,7 @@ public:
     ObjectList objects;
 
 private:
+    bool keepFaceless_;
     std::shared_ptr<Solid3d> solid_;
     std::vector<float> coordinates_;
 };
@@ -271,14 +282,22 @@ std::optional<ObjectList> TavrinMeshIO::OpenFile(std::string& filename) {
     return readFile(filename, &TavrinMeshIO::parse);
 }
 
+std::optional<ObjectList> TavrinMeshIO::openDrawable(std::string& filename) {
+    return readFile(filename, [](std::span<const uint8_t> bytes) { return build(bytes, false); });
+}
+
 std::optional<std::vector<TavrinMeshIO::ObjectCounts>>
 TavrinMeshIO::countFile(std::string& filename) {
     return readFile(filename, &TavrinMeshIO::count);
 }
 
 std::optional<ObjectList> TavrinMeshIO::parse(std::span<const uint8_t> bytes) {
+    return build(bytes, true);
+}
+
+std::optional<ObjectList> TavrinMeshIO::build(std::span<const uint8_t> bytes, bool keepFaceless) {
     LittleEndianReader in(bytes);
-    ObjectBuilder builder;
+    ObjectBuilder builder(keepFaceless);
     if (!readObjects(in, builder)) {
         return std::nullopt;
     }

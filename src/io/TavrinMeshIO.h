@@ -49,6 +49,10 @@ public:
     // The objects of the file, or nothing when it cannot be opened or is not a valid mesh
     // file. filename is normalised in place, so that a caller's message can show it.
     std::optional<ObjectList> OpenFile(std::string& filename);
+    // As OpenFile, but leaves out the objects that have no faces. They paint nothing, add
+    // nothing to the lights' ranges and do not change the order of the others, so a picture
+    // of the rest is the same; a file of many empty objects then takes far less memory.
+    std::optional<ObjectList> openDrawable(std::string& filename);
     // How many points and faces an object of the file has.
     struct ObjectCounts {
         int32_t points = 0;
@@ -69,6 +73,8 @@ public:
     static std::optional<ObjectList> parse(std::span<const uint8_t> bytes);
 
 private:
+    // The objects of the bytes, those without faces only with keepFaceless.
+    static std::optional<ObjectList> build(std::span<const uint8_t> bytes, bool keepFaceless);
     // The counts that parse would find, without the objects.
     static std::optional<std::vector<ObjectCounts>> count(std::span<const uint8_t> bytes);
     // Reads the whole file and interprets its bytes (parse or count).

@@ -178,7 +178,7 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatus) {
     EXPECT_EQ(help.out.rfind("Usage: korvan-cli render", 0), 0u);
 }
 
-TEST_F(CliEndToEnd, InfoTakesMemoryInProportionToTheFile) {
+TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the address sanitizer's shadow memory alone exceeds the limit";
 #endif
@@ -190,13 +190,38 @@ TEST_F(CliEndToEnd, InfoTakesMemoryInProportionToTheFile) {
         bytes[static_cast<size_t>(i)] = static_cast<char>(count >> (8 * i));
     }
     std::ofstream(dir_ / "many.tvm", std::ios::binary) << bytes;
-    const Outcome info = run("info " + at("many.tvm"), "", "prlimit --data=67108864");
+    const std::string limit = "prlimit --data=67108864";
+    const Outcome info = run("info " + at("many.tvm"), "", limit);
     EXPECT_EQ(info.status, 0);
     EXPECT_EQ(info.err, "");
     EXPECT_EQ(info.out.rfind("{\"file\": \"" + (dir_ / "many.tvm").string() +
                                  "\", \"objects\": 300000, \"items\": [{\"points\": 0, ",
                              0),
               0u);
+    const Outcome render = run("render " + at("many.tvm") + " -o " + at("many.svg"), "", limit);
+    EXPECT_EQ(render.status, 0);
+    EXPECT_EQ(render.err, "");
+}
+
+TEST_F(CliEndToEnd, ObjectsWithoutFacesChangeNothingInThePicture) {
+    const auto faceless = [](std::vector<float> coordinates) {
+        auto object = std::make_shared<Transformed3d>();
+        object->setSolid(std::make_shared<Solid3d>());
+        object->getSolid()->addPointsArray(coordinates);
+        return object;
+    };
+    const std::string mixed = (dir_ / "mixed.tvm").string();
+    ASSERT_TRUE(TavrinMeshIO().saveFile({faceless({}), prism(0.5f, 0, 0.3f, 0.8f),
+                                         faceless({5, 5, 5, -5, -5, -5}),
+                                         prism(-0.6f, -0.4f, 0.25f, 0.5f), faceless({})},
+                                        mixed));
+    for (const std::string view : {"iso", "front"}) {
+        EXPECT_EQ(run("render " + scene_ + " -o " + at("plain.svg") + " --view " + view).status, 0);
+        EXPECT_EQ(
+            run("render " + at("mixed.tvm") + " -o " + at("mixed.svg") + " --view " + view).status,
+            0);
+        EXPECT_EQ(readAll(dir_ / "mixed.svg"), readAll(dir_ / "plain.svg")) << view;
+    }
 }
 
 // Failures the superuser who runs the build never meets, injected in the tool's file calls.
