@@ -1,11 +1,11 @@
 // libFuzzer entry for the mesh file reader. Whatever the reader accepts is also drawn, in
 // every display mode, since accepted data must never make the renderer read out of bounds
 // or stall.
+#include "app/SceneDocument.h"
 #include "io/TavrinMeshIO.h"
 #include "platform/Canvas.h"
 #include "platform/Prompts.h"
 #include "render/KorvanOpsConsts.h"
-#include "render/SceneDocument.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
 
@@ -52,7 +52,7 @@ void drawEveryWay(const ObjectList& objects) {
             view.HideSurfaces = hide;
             view.wireFrame = wire;
             NullCanvas canvas;
-            ViewportRenderer().redrawViewport(canvas, view, document);
+            ViewportRenderer().redrawViewport(canvas, view, document.scene());
             for (const auto& object : objects) {
                 object->createFaceRegionEncaps(hide, true, 2);
             }
