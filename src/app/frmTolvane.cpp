@@ -143,11 +143,6 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
         break;
     case 2:
         result = mouseMode->handleRightClick(args);
-        popupViewport = index + 1;
-        // The chosen command runs before this press goes on.
-        if (windowFrame != nullptr) {
-            windowFrame->showPopupMenu(*canvas, Rounding::toInt32(x), Rounding::toInt32(y));
-        }
         break;
     case 4:
         result = mouseMode->handleMiddleClick(args);
@@ -157,6 +152,14 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
     }
     if (result) {
         record = result->getSpecs();
+    }
+    if (button == 2) {
+        popupViewport = index + 1;
+        // Shown after the handler's record is stored, so that the chosen command's change to
+        // the record stays; it runs before this press redraws.
+        if (windowFrame != nullptr) {
+            windowFrame->showPopupMenu(*canvas, Rounding::toInt32(x), Rounding::toInt32(y));
+        }
     }
     HandleCollectedDatum();
     redrawAllViewports();

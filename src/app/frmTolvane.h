@@ -94,6 +94,7 @@ public:
     int32_t getPopupViewport() const { return popupViewport; }
     const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
+    const SceneTreeModel& getTree() const { return TreeView1; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
 private:
