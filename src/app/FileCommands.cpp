@@ -21,14 +21,14 @@
 namespace {
 
 // The viewport an answer to the export question names (0 to 3), or nothing when the answer
-// is no number greater than 0 and at most 4. Answers below 0.5 would round to no viewport.
+// is no number greater than 0 and at most 4. Answers below 0.5 name no viewport either.
 std::optional<int> viewportIndex(const std::string& answer) {
     const char* begin = answer.c_str();
     char* end = nullptr;
     const double value = std::strtod(begin, &end);
     const bool numeric =
         end != begin && std::string(end).find_first_not_of(' ') == std::string::npos;
-    if (!numeric || !(value > 0 && value <= 4)) {
+    if (!numeric || !(value <= 4)) {
         return std::nullopt;
     }
     const int index = Rounding::toInt32(static_cast<float>(value - 1));
