@@ -13,7 +13,6 @@
 #include "platform/Prompts.h"
 #include "platform/WindowFrame.h"
 
-#include <cmath>
 #include <cstdlib>
 #include <optional>
 #include <string>
