@@ -1,18 +1,36 @@
 #include "app/frmTolvane.h"
 
+#include "app/ModeCommands.h"
+#include "app/ViewCommands.h"
 #include "app/frmMouseSensivity.h"
 #include "geometry/Rounding.h"
 #include "interaction/ClickHandleRotate.h"
 #include "platform/Canvas.h"
 #include "platform/ModalHost.h"
+#include "platform/WindowFrame.h"
 #include "render/KorvanOpsConsts.h"
+#include "scene/Transformed3d.h"
 
 frmTolvane::frmTolvane(ModalHost& dialogs)
     : modalHost(dialogs), document(SceneDocument::startUp()),
-      mouseMode(std::make_unique<ClickHandleRotate>()) {}
+      mouseMode(std::make_unique<ClickHandleRotate>()) {
+    menus.setAfterCommand([this] { refreshMenus(); });
+    menus.bind("mnuSetMouseSensivity", [this] { mnuSetMouseSensivity_Click(); });
+    ViewCommands::bind(menus, *this, viewports);
+    ModeCommands::bind(menus, *this);
+    // Workplane and profile creation, extrusion, the Profile menu and Property come with
+    // their commands; "&Graphic Creation" does nothing.
+}
 
 void frmTolvane::attachCanvases(const std::array<Canvas*, 4>& canvases) {
     viewports.attachCanvases(canvases);
+}
+
+void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChooser& colors) {
+    windowFrame = &frame;
+    fileDialog.emplace(files, colors);
+    fileCommands.emplace(*this, document, TreeView1, meshIO, viewports, *fileDialog, frame);
+    fileCommands->bind(menus);
 }
 
 void frmTolvane::Form_Load() {
@@ -30,7 +48,12 @@ void frmTolvane::layoutViewports() {
 }
 
 void frmTolvane::redrawAllViewports() {
-    viewports.redrawAll(document.scene(), [this](Canvas& canvas, const ViewSpecs& record) {
+    // The menu's check marks are the switches of grid and axes.
+    ViewportScene scene = document.scene();
+    scene.showGrid = menus.item("mnuGrid").isChecked();
+    scene.showZeroAxes = menus.item("mnuZeroAxes").isChecked();
+    scene.showReferenceAxes = menus.item("mnuReferenceAxes").isChecked();
+    viewports.redrawAll(scene, [this](Canvas& canvas, const ViewSpecs& record) {
         float ex;
         float ey;
         float ez;
@@ -120,7 +143,6 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
         break;
     case 2:
         result = mouseMode->handleRightClick(args);
-        popupViewport = index + 1;
         break;
     case 4:
         result = mouseMode->handleMiddleClick(args);
@@ -131,8 +153,17 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
     if (result) {
         record = result->getSpecs();
     }
+    if (button == 2) {
+        popupViewport = index + 1;
+        // Shown after the handler's record is stored, so that the chosen command's change to
+        // the record stays; it runs before this press redraws.
+        if (windowFrame != nullptr) {
+            windowFrame->showPopupMenu(*canvas, Rounding::toInt32(x), Rounding::toInt32(y));
+        }
+    }
     HandleCollectedDatum();
     redrawAllViewports();
+    refreshMenus();
 }
 
 void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y) {
@@ -163,4 +194,35 @@ void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y
     HandleCollectedDatum();
     redrawAllViewports();
     canvas->refresh();
+    refreshMenus();
+}
+
+void frmTolvane::Form_KeyDown(int KeyCode) {
+    // Enter (13, properties) and E (69, extrude) come with their commands.
+    if (KeyCode == 67) {
+        closeProfile();
+    }
+    redrawAllViewports();
+    refreshMenus();
+}
+
+void frmTolvane::refreshMenus() {
+    menus.item("mnuProperty").setEnabled(isPropertyMenuEnabled());
+}
+
+void frmTolvane::rebuildTree() {
+    TreeView1.Nodes.clear();
+    for (size_t i = 0; i < document.solids.size(); ++i) {
+        addSolidNode(document.solids[i], static_cast<int32_t>(i + 1), "Solid");
+    }
+}
+
+void frmTolvane::addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
+                              const std::string& caption) {
+    auto node = std::make_shared<SceneTreeNode>();
+    node->key = "s" + std::to_string(number);
+    node->text = caption + std::to_string(number);
+    node->image = "solid";
+    node->tag = object;
+    TreeView1.Nodes.push_back(node);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/FileCommands.h"
+#include "app/MainMenu.h"
 #include "app/MouseSensivityTarget.h"
 #include "app/ProfileCommands.h"
 #include "app/SceneDocument.h"
@@ -8,6 +10,7 @@
 #include "app/ViewportSet.h"
 #include "interaction/ClickHandleNothing.h"
 #include "interaction/ClickReceiver.h"
+#include "io/CommonDialogNoOCX.h"
 #include "io/TavrinMeshIO.h"
 
 #include <array>
@@ -17,7 +20,10 @@
 #include <string>
 
 class Canvas;
+class ColorChooser;
+class FileChooser;
 class ModalHost;
+class WindowFrame;
 
 // The main window's logic: the one object mouse modes and dialogs call back. Each of its
 // operations hands the work to a collaborator: the document, the selection, the scene tree,
@@ -33,6 +39,9 @@ public:
 
     // picOrtho(0) to picOrtho(3); viewSpecs(i + 1) belongs to picOrtho(i).
     void attachCanvases(const std::array<Canvas*, 4>& canvases);
+    // The window that shows this logic, and the choosers its file dialog opens; until then
+    // the File menu's commands do nothing and a right press shows no pop-up menu.
+    void attachFrame(WindowFrame& frame, FileChooser& files, ColorChooser& colors);
     // Load: draws the start-up document once the canvases are attached.
     void Form_Load();
     // Resize of the client area: lays the viewports out for the new size.
@@ -65,6 +74,18 @@ public:
 
     // Options, "&Set Mouse Sensivity": the sensitivity dialog, modally.
     void mnuSetMouseSensivity_Click();
+    // A key pressed in the window (key codes of the desktop: 13 Enter, 67 C, 69 E).
+    void Form_KeyDown(int KeyCode);
+
+    // The menu bar and the pop-up menu, with their commands bound.
+    MainMenu& getMenus() { return menus; }
+    // Whether "&Property <enter>" may be chosen: something is selected.
+    bool isPropertyMenuEnabled() const { return propertyMenuEnabled; }
+    // The tree anew from the document.
+    void rebuildTree();
+    // A top-level node for a scene object, numbered as the object's position.
+    void addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
+                      const std::string& caption);
 
     void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) { mouseMode = std::move(mode); }
     ClickHandleNothing& getMouseMode() const { return *mouseMode; }
@@ -73,10 +94,13 @@ public:
     int32_t getPopupViewport() const { return popupViewport; }
     const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
+    const SceneTreeModel& getTree() const { return TreeView1; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
 private:
     MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
+    // Brings the menus' enabled states up to date; every command and event ends with it.
+    void refreshMenus();
 
     ModalHost& modalHost;
     SceneDocument document;
@@ -88,4 +112,9 @@ private:
     int32_t popupViewport = 0;
     std::unique_ptr<ClickHandleNothing> mouseMode;
     TavrinMeshIO meshIO;
+    bool propertyMenuEnabled = false;
+    MainMenu menus;
+    WindowFrame* windowFrame = nullptr;
+    std::optional<CommonDialogNoOCX> fileDialog;
+    std::optional<FileCommands> fileCommands;
 };

@@ -3,6 +3,7 @@
 #include "geometry/CPoint3D.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
+#include "io/FileNames.h"
 #include "io/FileOverwriter.h"
 #include "io/LittleEndianReader.h"
 #include "io/LittleEndianWriter.h"
@@ -315,19 +316,5 @@ TavrinMeshIO::count(std::span<const uint8_t> bytes) {
 }
 
 std::string TavrinMeshIO::normalizeFileName(const std::string& name) {
-    std::string result = name;
-    for (char& c : result) {
-        const auto code = static_cast<unsigned char>(c);
-        if (code < ' ' || code > '~') {
-            c = ' ';
-        }
-    }
-    const size_t first = result.find_first_not_of(' ');
-    result = first == std::string::npos
-                 ? std::string()
-                 : result.substr(first, result.find_last_not_of(' ') - first + 1);
-    if (!result.ends_with(".tvm")) {
-        result += ".tvm";
-    }
-    return result;
+    return FileNames::clean(name, ".tvm");
 }

@@ -67,6 +67,11 @@ public:
     // Placement in the owning window, in the window's pixels; a canvas in a window takes the
     // new size. A canvas that lives in no window (a file being written) ignores it.
     virtual void move(int /*left*/, int /*top*/, int /*width*/, int /*height*/) {}
+    // Writes the persistent image as a device-dependent bitmap (.bmp) file; false when it
+    // could not be written, and then no partial file is left. A canvas that keeps no image
+    // has nothing to write.
+    virtual bool saveBitmap(const std::string& /*path*/) const { return false; }
+
     bool isVisible() const { return visible_; }
     virtual void setVisible(bool visible) { visible_ = visible; }
 

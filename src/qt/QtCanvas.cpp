@@ -1,7 +1,11 @@
 #include "qt/QtCanvas.h"
 
 #include "geometry/PackedColor.h"
+#include "io/FileOverwriter.h"
+#include "io/PosixFileSystem.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPoint>
@@ -174,4 +178,17 @@ bool QtCanvas::saveImage(const std::string& path) const {
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     const char* format = extension == ".bmp" ? "BMP" : extension == ".png" ? "PNG" : nullptr;
     return format != nullptr && image_.save(QString::fromStdString(path), format);
+}
+
+bool QtCanvas::saveBitmap(const std::string& path) const {
+    // Encoded in memory first, so that a failure to write leaves no partial file.
+    QByteArray encoded;
+    QBuffer buffer(&encoded);
+    if (!buffer.open(QIODevice::WriteOnly) || !image_.save(&buffer, "BMP")) {
+        return false;
+    }
+    PosixFileSystem system;
+    const std::span<const uint8_t> bytes(reinterpret_cast<const uint8_t*>(encoded.constData()),
+                                         static_cast<size_t>(encoded.size()));
+    return !FileOverwriter(system).overwrite(path, bytes);
 }

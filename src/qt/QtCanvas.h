@@ -35,6 +35,9 @@ public:
     void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy, int sw,
                        int sh) override;
 
+    // Replaces the file whole or not at all.
+    bool saveBitmap(const std::string& path) const override;
+
     const QImage& image() const { return image_; }
     // Writes the image as BMP or PNG, chosen by the file's extension; false for any other
     // extension or when the file cannot be written.

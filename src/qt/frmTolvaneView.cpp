@@ -1,9 +1,14 @@
 #include "qt/frmTolvaneView.h"
 
 #include "app/EventGuard.h"
+#include "app/MenuItem.h"
 #include "qt/CanvasWidget.h"
 
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QStandardItemModel>
 #include <QTreeView>
@@ -26,10 +31,19 @@ private:
     std::function<void(int, int)> resized_;
 };
 
+// A check mark shows only on an item that carries one: an item that can be checked
+// would show an empty box beside its caption in some styles.
+void showItem(QAction& action, const MenuItem& item) {
+    action.setCheckable(item.isChecked());
+    action.setChecked(item.isChecked());
+    action.setEnabled(item.isEnabled());
+    action.setVisible(item.isVisible());
+}
+
 } // namespace
 
 frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
-    : QMainWindow(parent), form_(form) {
+    : QMainWindow(parent), form_(form), files_(this), colors_(this) {
     setWindowTitle(QString::fromStdString(form_.caption()));
     auto* client = new ClientArea([this](int w, int h) { clientResized(w, h); });
     setCentralWidget(client);
@@ -37,6 +51,9 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
     std::array<Canvas*, 4> canvases{};
     for (int i = 0; i < 4; ++i) {
         auto* widget = new CanvasWidget(client);
+        // A click on a viewport takes the keyboard from the tree, so that the window's keys
+        // (C closes the profile being drawn) reach the window.
+        widget->setFocusPolicy(Qt::ClickFocus);
         canvases_[static_cast<size_t>(i)] = widget;
         canvases[static_cast<size_t>(i)] = &widget->canvas();
         connect(widget, &CanvasWidget::mousePressed, this,
@@ -54,15 +71,23 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
                     });
                 });
     }
-    QMenu* options = menuBar()->addMenu("&Options");
-    connect(options->addAction("&Set Mouse Sensivity"), &QAction::triggered, this,
-            [this] { EventGuard::run([this] { form_.mnuSetMouseSensivity_Click(); }); });
+    MenuItem& popup = form_.getMenus().getPopupMenu();
+    for (const auto& menu : form_.getMenus().getMenuBar().getChildren()) {
+        auto* shown = new QMenu(QString::fromStdString(menu->getCaption()), this);
+        mirror(*menu, *shown);
+        if (menu.get() == &popup) {
+            popup_ = shown;
+        } else {
+            menuBar()->addMenu(shown);
+        }
+    }
 
     tree_ = new QTreeView(client);
     tree_->setHeaderHidden(true);
     tree_->setModel(new QStandardItemModel(tree_));
 
     form_.attachCanvases(canvases);
+    form_.attachFrame(*this, files_, colors_);
     resize(1280, 800);
     EventGuard::run([this] { form_.Form_Load(); });
 }
@@ -71,4 +96,60 @@ void frmTolvaneView::clientResized(int width, int height) {
     EventGuard::run([&] { form_.Form_Resize(width, height); });
     const ControlPlacement& tree = form_.getTreePlacement();
     tree_->setGeometry(tree.left, tree.top, tree.width, tree.height);
+}
+
+void frmTolvaneView::mirror(MenuItem& item, QMenu& menu) {
+    for (const auto& child : item.getChildren()) {
+        const QString caption = QString::fromStdString(child->getCaption());
+        if (child->isSeparator()) {
+            menu.addSeparator();
+        } else if (!child->getChildren().empty()) {
+            mirror(*child, *menu.addMenu(caption));
+        } else {
+            QAction* action = menu.addAction(caption);
+            if (child->getShortcut() > 0) {
+                action->setShortcut(QKeySequence(Qt::Key_F1 + child->getShortcut() - 1));
+            }
+            MenuItem* model = child.get();
+            showItem(*action, *model);
+            model->setListener([shown = QPointer<QAction>(action)](const MenuItem& changed) {
+                if (shown) {
+                    showItem(*shown, changed);
+                }
+            });
+            connect(action, &QAction::triggered, this, [this, action, model] {
+                EventGuard::run([model] { model->click(); });
+                // Qt toggled a checkable action by itself; the item says what it shows.
+                showItem(*action, *model);
+            });
+        }
+    }
+}
+
+void frmTolvaneView::setMousePointer(MousePointer pointer) {
+    // Over the whole window, children included, until the default comes back.
+    const bool busy = pointer == MousePointer::Hourglass;
+    if (busy && !busy_) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else if (!busy && busy_) {
+        QApplication::restoreOverrideCursor();
+    }
+    busy_ = busy;
+}
+
+void frmTolvaneView::showPopupMenu(Canvas& canvas, int x, int y) {
+    for (CanvasWidget* widget : canvases_) {
+        if (&widget->canvas() == &canvas) {
+            popup_->exec(widget->mapToGlobal(QPoint(x, y)));
+            return;
+        }
+    }
+}
+
+void frmTolvaneView::keyPressEvent(QKeyEvent* event) {
+    // The desktop's key codes: letters and digits are their upper-case character codes, as
+    // Qt's are; both Enter keys are 13.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const int code = enter ? 13 : event->key();
+    EventGuard::run([this, code] { form_.Form_KeyDown(code); });
 }

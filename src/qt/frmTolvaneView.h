@@ -1,26 +1,45 @@
 #pragma once
 
 #include "app/frmTolvane.h"
+#include "platform/WindowFrame.h"
+#include "qt/QtColorChooser.h"
+#include "qt/QtFileChooser.h"
 
 #include <QMainWindow>
 #include <array>
 
 class CanvasWidget;
+class MenuItem;
+class QMenu;
 class QTreeView;
 
 // Shows the main window's logic (frmTolvane): four viewport canvases and the scene tree in
-// the client area, placed by the logic's layout; mouse events on the canvases go to it.
-class frmTolvaneView : public QMainWindow {
+// the client area, placed by the logic's layout, and the logic's menus as the menu bar and
+// the pop-up menu. Mouse events on the canvases, keys and chosen menu items go to it.
+class frmTolvaneView : public QMainWindow, public WindowFrame {
     Q_OBJECT
 public:
     explicit frmTolvaneView(frmTolvane& form, QWidget* parent = nullptr);
 
     CanvasWidget& picOrtho(int index) { return *canvases_[static_cast<size_t>(index)]; }
 
+    void setMousePointer(MousePointer pointer) override;
+    void showPopupMenu(Canvas& canvas, int x, int y) override;
+    void unload() override { close(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void clientResized(int width, int height);
+    // Adds the item's children to menu, each mirroring its item from now on.
+    void mirror(MenuItem& item, QMenu& menu);
 
     frmTolvane& form_;
+    QtFileChooser files_;
+    QtColorChooser colors_;
     std::array<CanvasWidget*, 4> canvases_{};
     QTreeView* tree_ = nullptr;
+    QMenu* popup_ = nullptr;
+    bool busy_ = false;
 };

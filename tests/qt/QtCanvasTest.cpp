@@ -1,6 +1,7 @@
 #include "qt/QtCanvas.h"
 #include "qt/CanvasWidget.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -144,4 +145,36 @@ TEST(QtCanvas, SaveImageWritesBmpAndPngOnly) {
     const std::string text = dir.path().toStdString() + "/view.txt";
     EXPECT_FALSE(canvas.saveImage(text));
     EXPECT_FALSE(QFile::exists(QString::fromStdString(text)));
+}
+
+TEST(QtCanvas, SaveBitmapWritesAWholeBmpFileOrNone) {
+    QTemporaryDir dir;
+    QtCanvas canvas(16, 8);
+    canvas.setBackColor(Red);
+    canvas.clear();
+    const std::string path = dir.path().toStdString() + "/view.bmp";
+    ASSERT_TRUE(canvas.saveBitmap(path));
+    QFile file(QString::fromStdString(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    ASSERT_GT(bytes.size(), 54);
+    const auto field = [&](int offset, int size) {
+        uint32_t value = 0;
+        for (int i = size - 1; i >= 0; --i) {
+            value = value * 256 + static_cast<uint8_t>(bytes[offset + i]);
+        }
+        return value;
+    };
+    // The header every viewer reads: signature, file size, a 40-byte info header.
+    EXPECT_EQ(bytes.left(2), QByteArray("BM"));
+    EXPECT_EQ(field(2, 4), static_cast<uint32_t>(bytes.size()));
+    EXPECT_EQ(field(14, 4), 40u);
+    const QImage loaded(QString::fromStdString(path), "BMP");
+    ASSERT_EQ(loaded.size(), QSize(16, 8));
+    EXPECT_EQ(loaded.pixel(3, 3) & 0xFFFFFF, RedPixel);
+
+    const std::string unreachable = dir.path().toStdString() + "/missing/view.bmp";
+    EXPECT_FALSE(canvas.saveBitmap(unreachable));
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+              QStringList{"view.bmp"});
 }

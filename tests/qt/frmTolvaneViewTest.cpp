@@ -6,7 +6,11 @@
 #include "support/ScriptedPrompts.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
+#include <QTimer>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -25,7 +29,85 @@ struct FailingMode : ClickHandleNothing {
     }
 };
 
+// The action reached from a menu bar or menu by its captions, or nullptr.
+QAction* findAction(const QWidget& menu, const QStringList& path) {
+    for (QAction* action : menu.actions()) {
+        if (action->text() != path.first()) {
+            continue;
+        }
+        if (path.size() == 1) {
+            return action;
+        }
+        return action->menu() != nullptr ? findAction(*action->menu(), path.mid(1)) : nullptr;
+    }
+    return nullptr;
+}
+
 } // namespace
+
+TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) {
+    ScriptedPrompts prompts;
+    ScriptedModalHost dialogs;
+    frmTolvane form(dialogs);
+    frmTolvaneView window(form);
+    window.resize(1000, 700);
+    window.show();
+    QApplication::processEvents();
+    QMenuBar& bar = *window.menuBar();
+
+    QAction* four = findAction(bar, {"&Options", "&Set Viewports", "&Four Windows"});
+    ASSERT_NE(four, nullptr);
+    four->trigger();
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(window.picOrtho(i).isVisible()) << i;
+    }
+
+    QAction* parallel = findAction(bar, {"&View", "&Projection Type", "P&arallel"});
+    ASSERT_NE(parallel, nullptr);
+    EXPECT_EQ(parallel->shortcut(), QKeySequence(Qt::Key_F1));
+    parallel->trigger();
+    for (int number = 1; number <= 4; ++number) {
+        EXPECT_EQ(form.getViewSpecs(number).ProjectionType, 0) << number;
+    }
+    findAction(bar, {"&View", "&Projection Type", "P&erspective"})->trigger();
+
+    QAction* grid = findAction(bar, {"&View", "&Display", "&Grid"});
+    ASSERT_NE(grid, nullptr);
+    EXPECT_TRUE(grid->isChecked());
+    grid->trigger();
+    EXPECT_FALSE(grid->isChecked());
+    EXPECT_EQ(findAction(bar, {"-view popup-"}), nullptr);
+    EXPECT_FALSE(findAction(bar, {"&Selectors", "&Property <enter>"})->isEnabled());
+
+    // The pop-up runs while the press waits; its Parallel is chosen, then it closes.
+    QTimer::singleShot(0, [] {
+        auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(popup, nullptr);
+        QAction* item = findAction(*popup, {"&Projection Type", "P&arallel"});
+        ASSERT_NE(item, nullptr);
+        item->trigger();
+        popup->close();
+    });
+    sendMouse(window.picOrtho(1), QEvent::MouseButtonPress, {20, 20}, Qt::RightButton,
+              Qt::RightButton);
+    EXPECT_EQ(form.getViewSpecs(2).ProjectionType, 0);
+    EXPECT_EQ(form.getViewSpecs(1).ProjectionType, 1);
+    EXPECT_EQ(form.getViewSpecs(4).ProjectionType, 1);
+}
+
+TEST(frmTolvaneView, KeysPressedOverAViewportReachTheWindow) {
+    ScriptedPrompts prompts;
+    ScriptedModalHost dialogs;
+    frmTolvane form(dialogs);
+    frmTolvaneView window(form);
+    window.show();
+    QApplication::processEvents();
+    // C closes the profile being drawn; with none, the window says so.
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, "c");
+    QApplication::sendEvent(&window.picOrtho(3), &key);
+    ASSERT_EQ(prompts.messages().size(), 1u);
+    EXPECT_EQ(prompts.messages()[0].title, "Error Closing Profile");
+}
 
 TEST(frmTolvaneView, LeftDragOnTheViewportTurnsTheView) {
     ScriptedModalHost dialogs;

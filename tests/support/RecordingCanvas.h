@@ -49,6 +49,14 @@ public:
         record(Kind::StretchBlit, {{dx, dy}, {dx + dw, dy + dh}});
     }
 
+    // Records the name and answers as the test set; the image itself is not written.
+    bool saveBitmap(const std::string& path) const override {
+        savedBitmaps_.push_back(path);
+        return saveSucceeds_;
+    }
+    void setSaveSucceeds(bool succeeds) { saveSucceeds_ = succeeds; }
+    const std::vector<std::string>& savedBitmaps() const { return savedBitmaps_; }
+
     const std::vector<Call>& calls() const { return calls_; }
     std::vector<Call> polygons() const;
     void forget() { calls_.clear(); }
@@ -61,4 +69,6 @@ private:
     int left_ = 0;
     int top_ = 0;
     std::vector<Call> calls_;
+    mutable std::vector<std::string> savedBitmaps_;
+    bool saveSucceeds_ = true;
 };

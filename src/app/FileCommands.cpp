@@ -1,0 +1,156 @@
+#include "app/FileCommands.h"
+
+#include "app/MainMenu.h"
+#include "app/SceneDocument.h"
+#include "app/SceneTreeModel.h"
+#include "app/ViewportSet.h"
+#include "app/frmTolvane.h"
+#include "geometry/Rounding.h"
+#include "io/CommonDialogNoOCX.h"
+#include "io/FileNames.h"
+#include "io/TavrinMeshIO.h"
+#include "platform/Canvas.h"
+#include "platform/Prompts.h"
+#include "platform/WindowFrame.h"
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+namespace {
+
+// The viewport an answer to the export question names (0 to 3), or nothing when the answer
+// is no number greater than 0 and at most 4. Answers below 0.5 name no viewport either.
+std::optional<int> viewportIndex(const std::string& answer) {
+    const char* begin = answer.c_str();
+    char* end = nullptr;
+    const double value = std::strtod(begin, &end);
+    const bool numeric =
+        end != begin && std::string(end).find_first_not_of(' ') == std::string::npos;
+    if (!numeric || !(value <= 4)) {
+        return std::nullopt;
+    }
+    const int index = Rounding::toInt32(static_cast<float>(value - 1));
+    return index >= 0 ? std::optional<int>(index) : std::nullopt;
+}
+
+std::string meshFilter(const TavrinMeshIO& meshIO) {
+    return "Tavrin Mesh File(*" + meshIO.getExtension() + ")|*" + meshIO.getExtension();
+}
+
+// The pointer of the whole window is the hourglass for the life of this object.
+class Hourglass {
+public:
+    explicit Hourglass(WindowFrame& frame) : frame_(frame) {
+        frame_.setMousePointer(MousePointer::Hourglass);
+    }
+    ~Hourglass() { frame_.setMousePointer(MousePointer::Default); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+private:
+    WindowFrame& frame_;
+};
+
+} // namespace
+
+void FileCommands::bind(MainMenu& menus) {
+    menus.bind("mnuFileNew", [this] { New(); });
+    menus.bind("mnuFileOpen", [this] { Open(); });
+    menus.bind("mnuFileSave", [this] { Save(); });
+    menus.bind("mnuFileExport", [this] { ExportToBitmap(); });
+    menus.bind("mnuFileExit", [this] { frame_.unload(); });
+}
+
+void FileCommands::New() {
+    const MessageAnswer answer = activePrompts().messageBox(
+        "Are you sure you want to create a new file.  All unsaved information will be lost.",
+        window_.caption(), MessageIcon::None, MessageButtons::YesNo);
+    if (answer != MessageAnswer::Yes) {
+        return;
+    }
+    window_.resetAllSelect();
+    document_.solids.clear();
+    document_.profiles.clear();
+    document_.workPlanes.clear();
+    window_.rebuildTree();
+}
+
+void FileCommands::Open() {
+    std::string name = fileDialog_.OpenFile(meshFilter(meshIO_), "Open File");
+    if (name.empty()) {
+        return;
+    }
+    auto list = meshIO_.OpenFile(name);
+    if (!list) {
+        showMessage("Error Opening " + name +
+                        ".  The file might be corrupted or was improperly saved.",
+                    "Opening...", MessageIcon::Critical);
+        document_.solids.clear();
+        // The tree must not lead to the objects that are gone.
+        window_.rebuildTree();
+        return;
+    }
+    document_.solids = std::move(*list);
+    // Workplanes and profiles stay in the document but lose their nodes until the next rebuild.
+    tree_.Nodes.clear();
+    for (size_t i = 0; i < document_.solids.size(); ++i) {
+        window_.addSolidNode(document_.solids[i], static_cast<int32_t>(i + 1), "Solid");
+    }
+    window_.redrawAllViewports();
+}
+
+void FileCommands::Save() {
+    const std::string name = fileDialog_.OpenFile(meshFilter(meshIO_), "Save File");
+    if (name.empty()) {
+        return;
+    }
+    bool ok = false;
+    {
+        Hourglass busy(frame_);
+        ok = meshIO_.saveFile(document_.solids, name);
+    }
+    if (!ok) {
+        showMessage("Error saving Tavrin Mesh File", "Saving...", MessageIcon::Critical);
+    }
+}
+
+void FileCommands::ExportToBitmap() {
+    saveViewportBitmap();
+    frame_.setMousePointer(MousePointer::Default);
+}
+
+void FileCommands::saveViewportBitmap() {
+    int visibleCount = 0;
+    for (int i = 0; i < 4; ++i) {
+        const Canvas* canvas = viewports_.canvas(i);
+        visibleCount += canvas != nullptr && canvas->isVisible() ? 1 : 0;
+    }
+    const std::string chosen =
+        fileDialog_.OpenFile("Devide Dependent Bitmap(*.bmp)|*.bmp", "Save File");
+    if (chosen.empty()) {
+        return;
+    }
+    const std::string name = FileNames::clean(chosen, ".bmp");
+    // The single visible viewport is always the fourth.
+    std::optional<int> index = 3;
+    if (visibleCount > 1) {
+        index.reset();
+        while (!index) {
+            const auto answer = activePrompts().inputBox(
+                "Please Select Viewport to generate bitmap from", "Viewport Selection", "1");
+            if (!answer || answer->empty()) {
+                return;
+            }
+            index = viewportIndex(*answer);
+        }
+    }
+    const Canvas* canvas = viewports_.canvas(*index);
+    if (canvas == nullptr) {
+        return;
+    }
+    frame_.setMousePointer(MousePointer::Hourglass);
+    if (!canvas->saveBitmap(name)) {
+        showMessage("Error saving " + name, "Saving...", MessageIcon::Critical);
+    }
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+class CommonDialogNoOCX;
+class MainMenu;
+class SceneTreeModel;
+class SelectionState;
+class TavrinMeshIO;
+class ViewportSet;
+class WindowFrame;
+class frmTolvane;
+struct SceneDocument;
+
+// The File menu's commands: a new document, opening and saving the mesh file, exporting a
+// viewport's picture, and leaving the program.
+class FileCommands {
+public:
+    FileCommands(frmTolvane& window, SceneDocument& document, SceneTreeModel& tree,
+                 TavrinMeshIO& meshIO, const ViewportSet& viewports, CommonDialogNoOCX& fileDialog,
+                 WindowFrame& frame)
+        : window_(window), document_(document), tree_(tree), meshIO_(meshIO), viewports_(viewports),
+          fileDialog_(fileDialog), frame_(frame) {}
+
+    // Makes the File menu's items run these commands.
+    void bind(MainMenu& menus);
+
+    void New();
+    void Open();
+    void Save();
+    void ExportToBitmap();
+
+private:
+    // Export To Bitmap up to the save; the command sets the default pointer after it.
+    void saveViewportBitmap();
+
+    frmTolvane& window_;
+    SceneDocument& document_;
+    SceneTreeModel& tree_;
+    TavrinMeshIO& meshIO_;
+    const ViewportSet& viewports_;
+    CommonDialogNoOCX& fileDialog_;
+    WindowFrame& frame_;
+};

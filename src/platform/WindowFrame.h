@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/MousePointer.h"
+
+class Canvas;
+
+// The top-level window that shows the main window's logic, for what the logic asks of the
+// window as a whole rather than of one canvas.
+class WindowFrame {
+public:
+    virtual ~WindowFrame() = default;
+
+    // The pointer over the whole window: the hourglass while a file is written.
+    virtual void setMousePointer(MousePointer pointer) = 0;
+    // Shows the window's pop-up menu at a point of the canvas and returns only when the user
+    // has chosen an item, whose command has then run, or dismissed the menu.
+    virtual void showPopupMenu(Canvas& canvas, int x, int y) = 0;
+    // Closes the window, which ends the program without a question.
+    virtual void unload() = 0;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/frmTolvane.h"
+#include "support/RecordingCanvas.h"
+#include "support/ScriptedChoosers.h"
+#include "support/ScriptedModalHost.h"
+#include "support/ScriptedPrompts.h"
+#include "support/ScriptedWindowFrame.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+// A main window with four recording canvases and a scripted frame, file dialog and prompts,
+// loaded and laid out in a 1000 x 600 client area.
+struct TestWindow {
+    ScriptedPrompts prompts;
+    ScriptedModalHost dialogs;
+    ScriptedFileChooser files;
+    ScriptedColorChooser colors;
+    ScriptedWindowFrame frame;
+    std::array<RecordingCanvas, 4> canvases;
+    frmTolvane form{dialogs};
+
+    TestWindow() {
+        form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        form.attachFrame(frame, files, colors);
+        form.Form_Load();
+        form.Form_Resize(1000, 600);
+    }
+
+    // Chooses a menu item by the captions of its path from the bar ({"&File", "&New"}).
+    void choose(const std::vector<std::string>& captions) {
+        MenuItem* item = form.getMenus().getMenuBar().findPath(captions);
+        ASSERT_NE(item, nullptr);
+        item->click();
+    }
+
+    // A right press on canvas index whose pop-up menu chooses the item at the path.
+    void popup(int index, const std::vector<std::string>& captions) {
+        frame.queuePopupChoice([this, captions] {
+            MenuItem* item = form.getMenus().getPopupMenu().findPath(captions);
+            ASSERT_NE(item, nullptr);
+            item->click();
+        });
+        form.picOrtho_MouseDown(index, 2, 0, 10, 10);
+    }
+};
