@@ -54,6 +54,27 @@ public:
     void setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) override;
     void setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) override;
     void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) override;
+    void resetSelectSolids();
+    void resetSelectFaces();
+    void resetSelectWorkplanes();
+    void resetSelectProfiles();
+    void resetSelectNodes();
+    // Whether "&Property <enter>" is enabled: something is selected, as last worked out.
+    bool isPropertyMenuEnabled() const { return selection.isPropertyMenuEnabled(); }
+
+    // The scene tree: nodes for items added to the document, and removal of item n with its
+    // node (the key given), after which the viewports are drawn again.
+    void addWorkplaneNode(const std::shared_ptr<WorkPlane>& workPlane, const std::string& caption);
+    void addSolidPointChildNodes(SceneTreeNode& node, const Transformed3d& object);
+    void removeSolid(int32_t n, const std::string& key);
+    void removeWorkplane(int32_t n, const std::string& key);
+    void removeProfile(int32_t n, const std::string& key);
+    // A click on a node selects what it stands for; Delete (key code 46) removes the selected
+    // node's item; every key press rebuilds the tree.
+    void TreeView1_NodeClick(SceneTreeNode& Node);
+    void TreeView1_KeyDown(int KeyCode);
+    SceneTreeModel& getSceneTree() { return TreeView1; }
+
     // What the profile tool calls back.
     void addProfilePoint(const PointRecord& r) override;
     bool closeProfile() override;
@@ -75,7 +96,15 @@ public:
     SceneDocument& getDocument() { return document; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
+    static constexpr int vbKeyDelete = 46;
+
 private:
+    template <class Item>
+    void removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n, const std::string& key);
+    // Item n selected and its node painted, as a click on the node does.
+    template <class Item, class Select>
+    void selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
+                      SceneTreeNode& node, int32_t color, Select select);
     MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
 
     ModalHost& modalHost;
