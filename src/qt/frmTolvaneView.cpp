@@ -2,11 +2,10 @@
 
 #include "app/EventGuard.h"
 #include "qt/CanvasWidget.h"
+#include "qt/SceneTreeView.h"
 
 #include <QMenuBar>
 #include <QResizeEvent>
-#include <QStandardItemModel>
-#include <QTreeView>
 #include <functional>
 
 namespace {
@@ -58,9 +57,7 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
     connect(options->addAction("&Set Mouse Sensivity"), &QAction::triggered, this,
             [this] { EventGuard::run([this] { form_.mnuSetMouseSensivity_Click(); }); });
 
-    tree_ = new QTreeView(client);
-    tree_->setHeaderHidden(true);
-    tree_->setModel(new QStandardItemModel(tree_));
+    tree_ = new SceneTreeView(form_, client);
 
     form_.attachCanvases(canvases);
     resize(1280, 800);

@@ -6,7 +6,7 @@
 #include <array>
 
 class CanvasWidget;
-class QTreeView;
+class SceneTreeView;
 
 // Shows the main window's logic (frmTolvane): four viewport canvases and the scene tree in
 // the client area, placed by the logic's layout; mouse events on the canvases go to it.
@@ -16,11 +16,12 @@ public:
     explicit frmTolvaneView(frmTolvane& form, QWidget* parent = nullptr);
 
     CanvasWidget& picOrtho(int index) { return *canvases_[static_cast<size_t>(index)]; }
+    SceneTreeView& TreeView1() { return *tree_; }
 
 private:
     void clientResized(int width, int height);
 
     frmTolvane& form_;
     std::array<CanvasWidget*, 4> canvases_{};
-    QTreeView* tree_ = nullptr;
+    SceneTreeView* tree_ = nullptr;
 };
