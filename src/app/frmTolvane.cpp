@@ -170,7 +170,7 @@ void frmTolvane::selectByNode(const std::vector<std::shared_ptr<Item>>& items, i
 }
 
 void frmTolvane::TreeView1_KeyDown(int KeyCode) {
-    if (KeyCode == vbKeyDelete && TreeView1.SelectedItem) {
+    if (KeyCode == keyCodeDelete && TreeView1.SelectedItem) {
         const std::string key = TreeView1.SelectedItem->key;
         const TreeKey parsed(key);
         if (parsed.letter == 's') {

@@ -96,7 +96,8 @@ public:
     SceneDocument& getDocument() { return document; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
-    static constexpr int vbKeyDelete = 46;
+    // The key code TreeView1_KeyDown acts on.
+    static constexpr int keyCodeDelete = 46;
 
 private:
     template <class Item>

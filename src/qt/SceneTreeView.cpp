@@ -59,6 +59,6 @@ void SceneTreeView::rebuildFinished() {
 void SceneTreeView::keyPressEvent(QKeyEvent* event) {
     // Every key rebuilds the tree, so the tree's own use of the key (moving the current
     // node, expanding) would act on nodes that are gone; only Delete means anything.
-    const int keyCode = event->key() == Qt::Key_Delete ? frmTolvane::vbKeyDelete : 0;
+    const int keyCode = event->key() == Qt::Key_Delete ? frmTolvane::keyCodeDelete : 0;
     EventGuard::run([&] { form_.TreeView1_KeyDown(keyCode); });
 }

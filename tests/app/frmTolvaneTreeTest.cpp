@@ -41,7 +41,7 @@ TEST(frmTolvaneTree, DeleteRemovesTheClickedSolidAndTheTreeIsNumberedAfresh) {
     EXPECT_EQ(w.node("s2").BackColor, 255);
     EXPECT_TRUE(w.form.isPropertyMenuEnabled());
 
-    w.form.TreeView1_KeyDown(frmTolvane::vbKeyDelete);
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     ASSERT_EQ(w.form.getDocument().solids.size(), 2u);
     EXPECT_EQ(w.form.getDocument().solids[1], third);
     ASSERT_EQ(w.topNodes().size(), 2u);
@@ -49,7 +49,7 @@ TEST(frmTolvaneTree, DeleteRemovesTheClickedSolidAndTheTreeIsNumberedAfresh) {
     EXPECT_EQ(w.topNodes()[1]->text, "Solid 2");
 
     // After the rebuild no node is selected: Delete removes nothing more.
-    w.form.TreeView1_KeyDown(frmTolvane::vbKeyDelete);
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
 }
 
@@ -81,7 +81,7 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyAndChildNodesSelectNothing) {
 
     // Delete on a face node removes nothing.
     w.form.TreeView1_NodeClick(w.node("f3-s2"));
-    w.form.TreeView1_KeyDown(frmTolvane::vbKeyDelete);
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     EXPECT_EQ(w.form.getDocument().solids.size(), 3u);
 }
 
