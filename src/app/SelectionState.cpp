@@ -1,6 +1,6 @@
 #include "app/SelectionState.h"
 
-#include "interaction/TreeDisplayNode.h"
+#include "app/SceneTreeNode.h"
 #include "platform/Prompts.h"
 #include "scene/Face3d.h"
 #include "scene/Profile.h"
@@ -10,8 +10,6 @@
 #include <string>
 
 namespace {
-
-constexpr int32_t white = 16777215;
 
 // Clears the items' selected flags and the collection.
 template <class Item> void deselect(std::vector<std::shared_ptr<Item>>& items) {
@@ -42,24 +40,39 @@ void SelectionState::setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>
     keepIfWanted(selectedFaces, faces,
                  "The face selector has selected more than one face.  Do you want to keep them "
                  "both?  No will undo new selection.");
+    updatePropertyMenu();
 }
 
 void SelectionState::setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
     keepIfWanted(selectedSolids, solids,
                  "The solid selector has selected more than one solid.  Do you want to keep "
                  "them both?  No will undo new selection.");
+    updatePropertyMenu();
+}
+
+void SelectionState::setSelectedWorkplanes(
+    const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) {
+    selectedWorkplanes = workPlanes;
+    updatePropertyMenu();
+}
+
+void SelectionState::setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) {
+    selectedProfiles = profiles;
 }
 
 void SelectionState::resetSelectSolids() {
     deselect(selectedSolids);
+    updatePropertyMenu();
 }
 
 void SelectionState::resetSelectFaces() {
     deselect(selectedFaces);
+    updatePropertyMenu();
 }
 
 void SelectionState::resetSelectWorkplanes() {
     deselect(selectedWorkplanes);
+    updatePropertyMenu();
 }
 
 void SelectionState::resetSelectProfiles() {
@@ -69,9 +82,10 @@ void SelectionState::resetSelectProfiles() {
 void SelectionState::resetSelectNodes() {
     // A node removed from the tree since is painted all the same; nobody sees it.
     for (const auto& node : selectNodes) {
-        node->setBackColor(white);
+        node->setBackColor(SceneTreeNode::white);
     }
     selectNodes = {};
+    updatePropertyMenu();
 }
 
 void SelectionState::resetAllSelect() {
@@ -88,4 +102,9 @@ void SelectionState::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node,
     }
     node->setBackColor(color);
     selectNodes.push_back(node);
+}
+
+void SelectionState::updatePropertyMenu() {
+    propertyMenuEnabled_ = !selectedSolids.empty() || !selectedFaces.empty() ||
+                           !selectedWorkplanes.empty() || !selectedProfiles.empty();
 }

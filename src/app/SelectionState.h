@@ -25,14 +25,26 @@ public:
     // the new ones lose their flag and the old selection stays.
     void setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>& faces);
     void setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids);
+    void setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes);
+    // Leaves the property menu as it was.
+    void setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles);
 
     void resetSelectSolids();
     void resetSelectFaces();
     void resetSelectWorkplanes();
+    // Leaves the property menu as it was.
     void resetSelectProfiles();
     // Paints every remembered node white again and forgets them.
     void resetSelectNodes();
     // Solids, faces, workplanes, nodes, profiles: every selection and highlight cleared.
     void resetAllSelect();
     void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color);
+
+    // The property menu is enabled when something of any kind is selected. It is worked out
+    // again only where the selection says so, not after every change: profiles leave it be.
+    void updatePropertyMenu();
+    bool isPropertyMenuEnabled() const { return propertyMenuEnabled_; }
+
+private:
+    bool propertyMenuEnabled_ = false;
 };

@@ -1,6 +1,7 @@
 #include "app/frmTolvane.h"
 
 #include "app/ModeCommands.h"
+#include "app/TreeKey.h"
 #include "app/ViewCommands.h"
 #include "app/frmMouseSensivity.h"
 #include "geometry/Rounding.h"
@@ -9,7 +10,9 @@
 #include "platform/ModalHost.h"
 #include "platform/WindowFrame.h"
 #include "render/KorvanOpsConsts.h"
+#include "scene/Profile.h"
 #include "scene/Transformed3d.h"
+#include "scene/WorkPlane.h"
 
 frmTolvane::frmTolvane(ModalHost& dialogs)
     : modalHost(dialogs), document(SceneDocument::startUp()),
@@ -76,6 +79,7 @@ void frmTolvane::getPicOrthoBounds(int32_t& lower, int32_t& upper) const {
 
 void frmTolvane::resetAllSelect() {
     selection.resetAllSelect();
+    TreeView1.refresh();
 }
 
 void frmTolvane::setSelectedSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
@@ -87,15 +91,121 @@ void frmTolvane::setSelectedFaces(const std::vector<std::shared_ptr<Face3d>>& fa
 }
 
 void frmTolvane::setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) {
-    selection.selectedWorkplanes = workPlanes;
+    selection.setSelectedWorkplanes(workPlanes);
 }
 
 void frmTolvane::setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) {
-    selection.selectedProfiles = profiles;
+    selection.setSelectedProfiles(profiles);
 }
 
 void frmTolvane::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) {
     selection.AddSelectNode(node, color);
+    TreeView1.refresh();
+}
+
+void frmTolvane::resetSelectSolids() {
+    selection.resetSelectSolids();
+}
+
+void frmTolvane::resetSelectFaces() {
+    selection.resetSelectFaces();
+}
+
+void frmTolvane::resetSelectWorkplanes() {
+    selection.resetSelectWorkplanes();
+}
+
+void frmTolvane::resetSelectProfiles() {
+    selection.resetSelectProfiles();
+}
+
+void frmTolvane::resetSelectNodes() {
+    selection.resetSelectNodes();
+    TreeView1.refresh();
+}
+
+void frmTolvane::addWorkplaneNode(const std::shared_ptr<WorkPlane>& workPlane,
+                                  const std::string& caption) {
+    TreeView1.addWorkplaneNode(workPlane, caption);
+}
+
+void frmTolvane::addSolidPointChildNodes(SceneTreeNode& node, const Transformed3d& object) {
+    TreeView1.addSolidPointChildNodes(node, object);
+}
+
+void frmTolvane::removeSolid(int32_t n, const std::string& key) {
+    removeItem(document.solids, n, key);
+}
+
+void frmTolvane::removeWorkplane(int32_t n, const std::string& key) {
+    removeItem(document.workPlanes, n, key);
+}
+
+void frmTolvane::removeProfile(int32_t n, const std::string& key) {
+    removeItem(document.profiles, n, key);
+}
+
+template <class Item>
+void frmTolvane::removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n,
+                            const std::string& key) {
+    // A number the document does not have (the tree out of step) removes no item.
+    if (n >= 1 && static_cast<size_t>(n) <= items.size()) {
+        items.erase(items.begin() + (n - 1));
+    }
+    TreeView1.removeNode(key);
+    redrawAllViewports();
+}
+
+void frmTolvane::TreeView1_NodeClick(SceneTreeNode& Node) {
+    TreeView1.SelectedItem = Node.shared_from_this();
+    const TreeKey key(Node.key);
+    resetAllSelect();
+    if (key.letter == 's') {
+        selectByNode(document.solids, key.number, Node, 255,
+                     [this](const auto& hit) { setSelectedSolids(hit); });
+    } else if (key.letter == 'w') {
+        selectByNode(document.workPlanes, key.number, Node, 65535,
+                     [this](const auto& hit) { setSelectedWorkplanes(hit); });
+    } else if (key.letter == 'r') {
+        selectByNode(document.profiles, key.number, Node, 16711935,
+                     [this](const auto& hit) { setSelectedProfiles(hit); });
+    } else if (key.letter == 'f' && key.solidNumber >= 1 &&
+               static_cast<size_t>(key.solidNumber) <= document.solids.size()) {
+        selectByNode(document.solids[static_cast<size_t>(key.solidNumber - 1)]->getFaces(),
+                     key.number, Node, 16776960,
+                     [this](const auto& hit) { setSelectedFaces(hit); });
+    }
+    redrawAllViewports();
+    refreshMenus();
+}
+
+template <class Item, class Select>
+void frmTolvane::selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
+                              SceneTreeNode& node, int32_t color, Select select) {
+    // A key the document has no item for (the tree out of step) selects nothing.
+    if (n < 1 || static_cast<size_t>(n) > items.size()) {
+        return;
+    }
+    const auto& item = items[static_cast<size_t>(n - 1)];
+    item->setSelected(true);
+    AddSelectNode(node.shared_from_this(), color);
+    select(std::vector<std::shared_ptr<Item>>{item});
+}
+
+void frmTolvane::TreeView1_KeyDown(int KeyCode) {
+    if (KeyCode == keyCodeDelete && TreeView1.SelectedItem) {
+        const std::string key = TreeView1.SelectedItem->key;
+        const TreeKey parsed(key);
+        if (parsed.letter == 's') {
+            removeSolid(parsed.number, key);
+        } else if (parsed.letter == 'w') {
+            removeWorkplane(parsed.number, key);
+        } else if (parsed.letter == 'r') {
+            removeProfile(parsed.number, key);
+        }
+    }
+    TreeView1.rebuildTree(document);
+    refreshMenus();
 }
 
 void frmTolvane::addProfilePoint(const PointRecord& r) {
@@ -211,18 +321,10 @@ void frmTolvane::refreshMenus() {
 }
 
 void frmTolvane::rebuildTree() {
-    TreeView1.Nodes.clear();
-    for (size_t i = 0; i < document.solids.size(); ++i) {
-        addSolidNode(document.solids[i], static_cast<int32_t>(i + 1), "Solid");
-    }
+    TreeView1.rebuildTree(document);
 }
 
 void frmTolvane::addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
                               const std::string& caption) {
-    auto node = std::make_shared<SceneTreeNode>();
-    node->key = "s" + std::to_string(number);
-    node->text = caption + std::to_string(number);
-    node->image = "solid";
-    node->tag = object;
-    TreeView1.Nodes.push_back(node);
+    TreeView1.addSolidNode(object, number, caption);
 }

@@ -63,6 +63,27 @@ public:
     void setSelectedWorkplanes(const std::vector<std::shared_ptr<WorkPlane>>& workPlanes) override;
     void setSelectedProfiles(const std::vector<std::shared_ptr<Profile>>& profiles) override;
     void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) override;
+    void resetSelectSolids();
+    void resetSelectFaces();
+    void resetSelectWorkplanes();
+    void resetSelectProfiles();
+    void resetSelectNodes();
+    // Whether "&Property <enter>" is enabled: something is selected, as last worked out.
+    bool isPropertyMenuEnabled() const { return selection.isPropertyMenuEnabled(); }
+
+    // The scene tree: nodes for items added to the document, and removal of item n with its
+    // node (the key given), after which the viewports are drawn again.
+    void addWorkplaneNode(const std::shared_ptr<WorkPlane>& workPlane, const std::string& caption);
+    void addSolidPointChildNodes(SceneTreeNode& node, const Transformed3d& object);
+    void removeSolid(int32_t n, const std::string& key);
+    void removeWorkplane(int32_t n, const std::string& key);
+    void removeProfile(int32_t n, const std::string& key);
+    // A click on a node selects what it stands for; Delete (key code 46) removes the selected
+    // node's item; every key press rebuilds the tree.
+    void TreeView1_NodeClick(SceneTreeNode& Node);
+    void TreeView1_KeyDown(int KeyCode);
+    SceneTreeModel& getSceneTree() { return TreeView1; }
+
     // What the profile tool calls back.
     void addProfilePoint(const PointRecord& r) override;
     bool closeProfile() override;
@@ -79,8 +100,6 @@ public:
 
     // The menu bar and the pop-up menu, with their commands bound.
     MainMenu& getMenus() { return menus; }
-    // Whether "&Property <enter>" may be chosen: something is selected.
-    bool isPropertyMenuEnabled() const { return propertyMenuEnabled; }
     // The tree anew from the document.
     void rebuildTree();
     // A top-level node for a scene object, numbered as the object's position.
@@ -94,10 +113,18 @@ public:
     int32_t getPopupViewport() const { return popupViewport; }
     const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
-    const SceneTreeModel& getTree() const { return TreeView1; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
+    // The key code TreeView1_KeyDown acts on.
+    static constexpr int keyCodeDelete = 46;
+
 private:
+    template <class Item>
+    void removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n, const std::string& key);
+    // Item n selected and its node painted, as a click on the node does.
+    template <class Item, class Select>
+    void selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
+                      SceneTreeNode& node, int32_t color, Select select);
     MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
     // Brings the menus' enabled states up to date; every command and event ends with it.
     void refreshMenus();
@@ -112,7 +139,6 @@ private:
     int32_t popupViewport = 0;
     std::unique_ptr<ClickHandleNothing> mouseMode;
     TavrinMeshIO meshIO;
-    bool propertyMenuEnabled = false;
     MainMenu menus;
     WindowFrame* windowFrame = nullptr;
     std::optional<CommonDialogNoOCX> fileDialog;

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "interaction/ClickHandleNothing.h"
+#include "interaction/ClickHandleSelector.h"
 
-// Stands in for the face selector until it is written: the crosshair, nothing else.
-class ClickHandleFaceSelector : public ClickHandleNothing {
+// Selects every visible face under a left click, of every solid, and paints the faces' tree
+// nodes cyan.
+class ClickHandleFaceSelector : public ClickHandleSelector {
 public:
-    MousePointer getMouseIcon() const override { return MousePointer::Crosshair; }
+    // No data; the sample object says that data would be faces.
+    void getData(std::vector<std::any>& datum, std::vector<std::any>& castGuide) override;
+    std::optional<viewInfo> handleLeftClick(MouseEventArgs& args) override;
 };

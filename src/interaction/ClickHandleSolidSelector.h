@@ -1,9 +1,10 @@
 #pragma once
 
-#include "interaction/ClickHandleNothing.h"
+#include "interaction/ClickHandleSelector.h"
 
-// Stands in for the solid selector until it is written: the crosshair, nothing else.
-class ClickHandleSolidSelector : public ClickHandleNothing {
+// Selects every solid with a visible face under a left click, once however many of its faces
+// are hit, and paints its tree node red.
+class ClickHandleSolidSelector : public ClickHandleSelector {
 public:
-    MousePointer getMouseIcon() const override { return MousePointer::Crosshair; }
+    std::optional<viewInfo> handleLeftClick(MouseEventArgs& args) override;
 };

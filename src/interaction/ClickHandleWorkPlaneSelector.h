@@ -1,9 +1,9 @@
 #pragma once
 
-#include "interaction/ClickHandleNothing.h"
+#include "interaction/ClickHandleSelector.h"
 
-// Stands in for the workplane selector until it is written: the crosshair, nothing else.
-class ClickHandleWorkPlaneSelector : public ClickHandleNothing {
+// Selects every workplane under a left click and paints its tree node yellow.
+class ClickHandleWorkPlaneSelector : public ClickHandleSelector {
 public:
-    MousePointer getMouseIcon() const override { return MousePointer::Crosshair; }
+    std::optional<viewInfo> handleLeftClick(MouseEventArgs& args) override;
 };

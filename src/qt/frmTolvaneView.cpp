@@ -3,6 +3,7 @@
 #include "app/EventGuard.h"
 #include "app/MenuItem.h"
 #include "qt/CanvasWidget.h"
+#include "qt/SceneTreeView.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,8 +11,6 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QResizeEvent>
-#include <QStandardItemModel>
-#include <QTreeView>
 #include <functional>
 
 namespace {
@@ -82,9 +81,7 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
         }
     }
 
-    tree_ = new QTreeView(client);
-    tree_->setHeaderHidden(true);
-    tree_->setModel(new QStandardItemModel(tree_));
+    tree_ = new SceneTreeView(form_, client);
 
     form_.attachCanvases(canvases);
     form_.attachFrame(*this, files_, colors_);

@@ -11,7 +11,7 @@
 class CanvasWidget;
 class MenuItem;
 class QMenu;
-class QTreeView;
+class SceneTreeView;
 
 // Shows the main window's logic (frmTolvane): four viewport canvases and the scene tree in
 // the client area, placed by the logic's layout, and the logic's menus as the menu bar and
@@ -22,6 +22,7 @@ public:
     explicit frmTolvaneView(frmTolvane& form, QWidget* parent = nullptr);
 
     CanvasWidget& picOrtho(int index) { return *canvases_[static_cast<size_t>(index)]; }
+    SceneTreeView& TreeView1() { return *tree_; }
 
     void setMousePointer(MousePointer pointer) override;
     void showPopupMenu(Canvas& canvas, int x, int y) override;
@@ -39,7 +40,7 @@ private:
     QtFileChooser files_;
     QtColorChooser colors_;
     std::array<CanvasWidget*, 4> canvases_{};
-    QTreeView* tree_ = nullptr;
+    SceneTreeView* tree_ = nullptr;
     QMenu* popup_ = nullptr;
     bool busy_ = false;
 };

@@ -60,7 +60,7 @@ TEST(FileCommands, NewAsksAndEmptiesTheDocumentOnlyOnYes) {
     EXPECT_TRUE(document.solids.empty());
     EXPECT_TRUE(document.workPlanes.empty());
     EXPECT_TRUE(document.profiles.empty());
-    EXPECT_EQ(w.form.getTree().Nodes.size(), 0u);
+    EXPECT_EQ(w.form.getSceneTree().root().children().size(), 0u);
     EXPECT_NE(document.currentProfile, nullptr); // kept
 }
 
@@ -75,8 +75,8 @@ TEST(FileCommands, OpenReadsTheFileAndAFailureLeavesNoObjectBehind) {
     EXPECT_EQ(w.files.requests()[0].title, "Open File");
     EXPECT_EQ(w.files.requests()[0].filter, "Tavrin Mesh File(*.tvm)|*.tvm");
     ASSERT_EQ(w.form.getDocument().solids.size(), 2u);
-    ASSERT_EQ(w.form.getTree().Nodes.size(), 2u);
-    EXPECT_EQ(w.form.getTree().Nodes[1]->key, "s2");
+    ASSERT_EQ(w.form.getSceneTree().root().children().size(), 2u);
+    EXPECT_EQ(w.form.getSceneTree().root().children()[1]->key, "s2");
 
     // A corrupt file, chosen with the dialog's closing zero and without its extension.
     std::ofstream(folder.file("bad.tvm")) << "abc";
@@ -89,7 +89,7 @@ TEST(FileCommands, OpenReadsTheFileAndAFailureLeavesNoObjectBehind) {
     EXPECT_EQ(w.prompts.messages()[0].title, "Opening...");
     EXPECT_EQ(w.prompts.messages()[0].icon, MessageIcon::Critical);
     EXPECT_TRUE(w.form.getDocument().solids.empty());
-    EXPECT_TRUE(w.form.getTree().Nodes.empty());
+    EXPECT_TRUE(w.form.getSceneTree().root().children().empty());
 
     w.choose(fileOpen); // cancelled
     EXPECT_EQ(w.prompts.messages().size(), 1u);

@@ -2,6 +2,7 @@
 
 #include "app/SceneTreeNode.h"
 #include "scene/Face3d.h"
+#include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
 #include "support/ScriptedPrompts.h"
 
@@ -57,4 +58,26 @@ TEST(SelectionState, ResetAllClearsFlagsCollectionsAndNodeColours) {
     EXPECT_TRUE(selection.selectedWorkplanes.empty());
     EXPECT_EQ(node->BackColor, 16777215);
     EXPECT_TRUE(selection.selectNodes.empty());
+}
+
+TEST(SelectionState, SeveralSolidsAskTheirOwnQuestionUnderTheFaceTitle) {
+    ScriptedPrompts prompts;
+    SelectionState selection;
+    const auto a = std::make_shared<Transformed3d>();
+    const auto b = std::make_shared<Transformed3d>();
+    a->setSelected(true);
+    b->setSelected(true);
+    prompts.queueAnswer(MessageAnswer::Yes);
+    selection.setSelectedSolids({a, b});
+    selection.setSelectedFaces({selectedFace(), selectedFace()});
+    ASSERT_EQ(prompts.messages().size(), 2u);
+    EXPECT_EQ(prompts.messages()[0].text,
+              "The solid selector has selected more than one solid.  Do you want to keep them "
+              "both?  No will undo new selection.");
+    EXPECT_EQ(prompts.messages()[0].title, "Multiple face selection");
+    EXPECT_EQ(prompts.messages()[1].text,
+              "The face selector has selected more than one face.  Do you want to keep them "
+              "both?  No will undo new selection.");
+    EXPECT_EQ(selection.selectedSolids.size(), 2u);
+    EXPECT_TRUE(selection.isPropertyMenuEnabled());
 }

@@ -1,0 +1,34 @@
+#include "interaction/ClickHandleWorkPlaneSelector.h"
+
+#include "interaction/ClickReceiver.h"
+#include "interaction/TreeDisplay.h"
+#include "render/GDIRegion.h"
+#include "scene/WorkPlane.h"
+
+#include <string>
+
+std::optional<viewInfo> ClickHandleWorkPlaneSelector::handleLeftClick(MouseEventArgs& args) {
+    if (!args.viewSpecs) {
+        return std::nullopt;
+    }
+    const Matrix4 full = fullMatrix(args);
+    args.messageReceiver.resetAllSelect();
+    std::vector<std::shared_ptr<WorkPlane>> hits;
+    int32_t n = 1;
+    for (const auto& workPlane : args.workPlanes) {
+        workPlane->ApplyFull(full);
+        const auto region = workPlane->createRegion();
+        if (region && region->inRegion(args.mouseX, args.mouseY)) {
+            workPlane->setSelected(true);
+            hits.push_back(workPlane);
+            args.messageReceiver.AddSelectNode(args.treeDisplay.findNode("w" + std::to_string(n)),
+                                               65535);
+        }
+        // The next redraw projects the plane afresh for each viewport.
+        workPlane->resetTransformedPoints();
+        ++n;
+    }
+    args.treeDisplay.refresh();
+    args.messageReceiver.setSelectedWorkplanes(hits);
+    return args.viewSpecs;
+}
