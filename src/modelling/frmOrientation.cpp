@@ -36,7 +36,7 @@ void frmOrientation::initialize(const COrientation& orientation) {
 
 COrientation frmOrientation::getOrientation() const {
     COrientation result;
-    result.setOrientation(confirmed ? choice : -1);
+    result.setOrientation(choice);
     return result;
 }
 
@@ -52,6 +52,5 @@ void frmOrientation::mnuConfirm_Click() {
 }
 
 void frmOrientation::mnuCancel_Click() {
-    confirmed = false;
     close();
 }

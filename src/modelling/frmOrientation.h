@@ -40,5 +40,6 @@ public:
 
 private:
     bool confirmed = false;
+    // Set only by a valid Confirm, so that anything else reads as no confirmed orientation.
     int32_t choice = -1;
 };

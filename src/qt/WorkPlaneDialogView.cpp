@@ -73,13 +73,16 @@ WorkPlaneDialogView::WorkPlaneDialogView(WorkPlaneDialog& form, QWidget* parent)
 
 void WorkPlaneDialogView::refresh() {
     for (size_t i = 0; i < fields_.size(); ++i) {
-        const TextBoxState& state = form_.*fieldRows[i].state;
+        TextBoxState& state = form_.*fieldRows[i].state;
         const QString text = QString::fromStdString(state.Text);
         if (fields_[i]->text() != text) {
             fields_[i]->setText(text);
         }
+        // The focus goes to a refused field once; from there the user moves it, and a
+        // later refresh (after Select) leaves it where it is.
         if (state.Focused) {
             fields_[i]->setFocus();
+            state.Focused = false;
         }
     }
     const PackedColor channels = PackedColor::split(form_.picWPColor.BackColor);

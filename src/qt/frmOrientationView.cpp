@@ -34,12 +34,7 @@ frmOrientationView::frmOrientationView(frmOrientation& form, QWidget* parent)
 }
 
 void frmOrientationView::refresh() {
-    // An exclusive group cannot show neither option chosen, as the dialog does before the
-    // user chooses when the guess is unknown.
-    for (const auto& [button, value] :
-         {std::pair{optCW_, form_.optCW.Value}, std::pair{optCCW_, form_.optCCW.Value}}) {
-        button->setAutoExclusive(false);
-        button->setChecked(value);
-        button->setAutoExclusive(true);
-    }
+    // Neither is checked while an unknown guess waits for the user's choice.
+    optCW_->setChecked(form_.optCW.Value);
+    optCCW_->setChecked(form_.optCCW.Value);
 }

@@ -66,6 +66,7 @@ TEST(frmOrientation, ConfirmNeedsAChoice) {
     clockwise.initialize(guess(2));
     host.queueDialog({User::choose("optCW"), User::press("mnuConfirm")});
     host.showModal(clockwise);
+    EXPECT_FALSE(clockwise.optCCW.Value);
     EXPECT_EQ(clockwise.getOrientation().getOrientation(), 1);
 }
 

@@ -70,8 +70,10 @@ TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAround) {
     dialog.pickListLine("listPointIndex", 1);
     dialog.press("cmdDown");
     EXPECT_EQ(shown(), (Names{"A", "C", "B"}));
+    EXPECT_EQ(dialog.listPointIndex.ListIndex, 2);
     dialog.press("cmdUp");
     EXPECT_EQ(shown(), (Names{"A", "B", "C"}));
+    EXPECT_EQ(dialog.listPointIndex.ListIndex, 1);
 
     // Without a selected line, nothing moves or goes.
     dialog.pickListLine("listPointIndex", -1);

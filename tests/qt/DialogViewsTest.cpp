@@ -48,15 +48,21 @@ TEST(frmWorkPlaneParametricView, EnterAcceptsWhatWasTypedEscapeCancels) {
     EXPECT_TRUE(child<QPushButton>(view, "mnuAccept").isDefault());
     EXPECT_EQ(view.focusWidget(), &child<QLineEdit>(view, "Text1"));
 
-    // A refused Accept empties the field in the view too and puts the focus there.
-    typeInto(child<QLineEdit>(view, "Text1"), "abc");
-    key(child<QLineEdit>(view, "Text1"), Qt::Key_Return);
-    EXPECT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(child<QLineEdit>(view, "Text1").text(), "");
-    EXPECT_TRUE(view.isVisible());
-
+    // A refused Accept empties the field in the view too and puts the focus there, once:
+    // Select later leaves the focus where the user put it.
+    QLineEdit& Text2 = child<QLineEdit>(view, "Text2");
     typeInto(child<QLineEdit>(view, "Text1"), "10");
-    typeInto(child<QLineEdit>(view, "Text2"), "0.5");
+    typeInto(Text2, "abc");
+    key(Text2, Qt::Key_Return);
+    EXPECT_EQ(prompts.messages().size(), 1u);
+    EXPECT_EQ(Text2.text(), "");
+    EXPECT_EQ(view.focusWidget(), &Text2);
+    EXPECT_TRUE(view.isVisible());
+    child<QLineEdit>(view, "Text5").setFocus();
+    child<QPushButton>(view, "Command1").click();
+    EXPECT_EQ(view.focusWidget(), &child<QLineEdit>(view, "Text5"));
+
+    typeInto(Text2, "0.5");
     typeInto(child<QLineEdit>(view, "Text3"), "0");
     typeInto(child<QLineEdit>(view, "Text5"), "-2");
     key(child<QLineEdit>(view, "Text5"), Qt::Key_Return);
