@@ -50,13 +50,6 @@ using Names = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(frmProfilePropertyOnABC, ListsThePointsAndTheirVisibility) {
-    EXPECT_EQ(dialog.listPointIndex.items[0], "Point1: X:1, Y:0,Z:3");
-    EXPECT_EQ(dialog.listPointIndex.items.size(), 3u);
-    EXPECT_EQ(dialog.listPointIndex.ListIndex, -1);
-    EXPECT_TRUE(dialog.chkVisible.Value);
-}
-
 TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAround) {
     dialog.pickListLine("listPointIndex", 0);
     dialog.press("cmdUp");
