@@ -5,6 +5,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <utility>
 
 ModalDialogView::ModalDialogView(ModalDialog& form, std::string cancelName, QWidget* parent)
     : QDialog(parent), form_(form), cancelName_(std::move(cancelName)) {

@@ -39,8 +39,7 @@ WorkPlaneDialogView::WorkPlaneDialogView(WorkPlaneDialog& form, QWidget* parent)
         auto* field = new QLineEdit(QString::fromStdString((form_.*row.state).Text), this);
         field->setObjectName(row.name);
         field->setMinimumWidth(160);
-        // Typing needs no refresh: showing the state again would move the focus back to
-        // a field a refused Accept focused.
+        // Typing changes nothing else that the view shows.
         connect(field, &QLineEdit::textEdited, this, [this, name = row.name](const QString& text) {
             EventGuard::run([this, name, &text] { form_.typeText(name, text.toStdString()); });
         });
