@@ -14,6 +14,7 @@ struct TextBoxState {
 };
 
 struct CheckBoxState {
+    std::string Caption;
     bool Value = false;
     bool Enabled = true;
 };

@@ -4,8 +4,12 @@
 #include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
 #include "qt/frmMouseSensivityView.h"
+#include "qt/frmOrientationView.h"
+#include "qt/frmProfilePropertyView.h"
 #include "qt/frmSplashView.h"
 #include "qt/frmTolvaneView.h"
+#include "qt/frmWorkPlaneParametricView.h"
+#include "qt/frmWorkPlanePropertyView.h"
 
 #include <QApplication>
 
@@ -13,6 +17,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QtModalHost dialogs;
     dialogs.registerView<frmMouseSensivity, frmMouseSensivityView>();
+    dialogs.registerView<frmWorkPlaneParametric, frmWorkPlaneParametricView>();
+    dialogs.registerView<frmWorkPlaneProperty, frmWorkPlanePropertyView>();
+    dialogs.registerView<frmOrientation, frmOrientationView>();
+    dialogs.registerView<frmProfileProperty, frmProfilePropertyView>();
     frmTolvane form(dialogs);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);

@@ -95,3 +95,23 @@ TEST(NumberText, ShortFormOfASingle) {
     EXPECT_EQ(NumberText::single(0.0001f), "0.0001");
     EXPECT_EQ(NumberText::single(0.00001f), "1E-05");
 }
+
+TEST(NumberText, ParseSingleReadsWholeNumbersOnly) {
+    const std::pair<const char*, float> numbers[] = {{" -2 ", -2.0f},
+                                                     {"1e3", 1000.0f},
+                                                     {"+.5", 0.5f},
+                                                     {"5.", 5.0f},
+                                                     {"1.5E-2", 0.015f},
+                                                     {"\t7", 7.0f},
+                                                     {"3.4028235e38", 3.4028235e38f},
+                                                     {"1e-50", 0.0f}};
+    for (const auto& [text, value] : numbers) {
+        const std::optional<float> parsed = NumberText::parseSingle(text);
+        ASSERT_TRUE(parsed.has_value()) << text;
+        EXPECT_EQ(*parsed, value) << text;
+    }
+    for (const char* text : {"", "   ", "abc", "1,5", "1e", "0x10", "inf", "-nan", ".", "+-1",
+                             "1 2", "2abc", "1e39", "-1e400"}) {
+        EXPECT_FALSE(NumberText::parseSingle(text).has_value()) << '"' << text << '"';
+    }
+}

@@ -11,9 +11,11 @@ MessageAnswer ScriptedPrompts::messageBox(const std::string& text, const std::st
     return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
 }
 
-std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt, const std::string&,
-                                                     const std::string&) {
+std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt,
+                                                     const std::string& title,
+                                                     const std::string& defaultText) {
     inputPrompts_.push_back(prompt);
+    inputBoxes_.push_back(InputBox{prompt, title, defaultText});
     if (!inputs_.empty()) {
         auto input = inputs_.front();
         inputs_.pop_front();

@@ -18,6 +18,11 @@ public:
         MessageIcon icon;
         MessageButtons buttons;
     };
+    struct InputBox {
+        std::string prompt;
+        std::string title;
+        std::string defaultText;
+    };
 
     ScriptedPrompts() { installPrompts(this); }
     ~ScriptedPrompts() override { installPrompts(nullptr); }
@@ -34,9 +39,12 @@ public:
 
     const std::vector<Message>& messages() const { return messages_; }
     const std::vector<std::string>& inputPrompts() const { return inputPrompts_; }
+    // Every input box asked, with its title and default text.
+    const std::vector<InputBox>& inputBoxes() const { return inputBoxes_; }
     void forget() {
         messages_.clear();
         inputPrompts_.clear();
+        inputBoxes_.clear();
     }
 
 private:
@@ -44,4 +52,5 @@ private:
     std::deque<std::optional<std::string>> inputs_;
     std::vector<Message> messages_;
     std::vector<std::string> inputPrompts_;
+    std::vector<InputBox> inputBoxes_;
 };
