@@ -271,38 +271,37 @@ void frmExtrude::cmdAddTrans_Click() {
     }
 }
 
+bool frmExtrude::hasSelectedEntry() const {
+    return List1.ListIndex >= 0 && List1.ListIndex < static_cast<int>(List1.items.size());
+}
+
 void frmExtrude::cmdRemoveTrans_Click() {
-    if (List1.ListIndex < 0) {
+    if (!hasSelectedEntry()) {
         return;
     }
     List1.items.erase(List1.items.begin() + List1.ListIndex);
     List1.ListIndex = -1;
 }
 
-void frmExtrude::cmdMoveUpTrans_Click() {
-    const int count = static_cast<int>(List1.items.size());
-    const int from = List1.ListIndex;
-    if (from < 0) {
+void frmExtrude::moveSelectedEntry(int step) {
+    if (!hasSelectedEntry()) {
         return;
     }
-    const int to = from == 0 ? count - 1 : from - 1;
-    std::string entry = List1.items[static_cast<size_t>(from)];
+    const int count = static_cast<int>(List1.items.size());
+    const int from = List1.ListIndex;
+    const int to = (from + step + count) % count;
+    std::string entry = std::move(List1.items[static_cast<size_t>(from)]);
     List1.items.erase(List1.items.begin() + from);
     List1.items.insert(List1.items.begin() + to, std::move(entry));
     List1.ListIndex = to;
 }
 
+void frmExtrude::cmdMoveUpTrans_Click() {
+    moveSelectedEntry(-1);
+}
+
 void frmExtrude::cmdMoveDownTrans_Click() {
-    const int count = static_cast<int>(List1.items.size());
-    const int from = List1.ListIndex;
-    if (from < 0) {
-        return;
-    }
-    const int to = from == count - 1 ? 0 : from + 1;
-    std::string entry = List1.items[static_cast<size_t>(from)];
-    List1.items.erase(List1.items.begin() + from);
-    List1.items.insert(List1.items.begin() + to, std::move(entry));
-    List1.ListIndex = to;
+    moveSelectedEntry(1);
 }
 
 void frmExtrude::chooseColor(SwatchState& swatch) {
