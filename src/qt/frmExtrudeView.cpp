@@ -18,6 +18,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -99,6 +100,7 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
 
     // The list's buttons next: their short captions have few letters to choose from.
     auto* listButtons = new QVBoxLayout;
+    std::vector<QWidget*> listButtonWidgets;
     for (const auto& [state, name] : {std::pair{&form_.cmdAddTrans, "cmdAddTrans"},
                                       {&form_.cmdRemoveTrans, "cmdRemoveTrans"},
                                       {&form_.cmdMoveUpTrans, "cmdMoveUpTrans"},
@@ -108,6 +110,7 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
         connect(button, &QPushButton::clicked, this,
                 [this, name] { act([this, name] { form_.press(name); }); });
         listButtons->addWidget(button);
+        listButtonWidgets.push_back(button);
     }
     listButtons->addStretch();
     auto* listLayout = new QHBoxLayout;
@@ -223,10 +226,14 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
     layout->addLayout(columns);
     layout->addWidget(buttons);
 
-    // Top to bottom, left column first.
-    QWidget* order[] = {txtExtrusionLength_, txtIncrements_, optExtrude_[0], optExtrude_[1],
-                        optExtrude_[2],      chkCapEnds_,    List1_};
-    for (size_t i = 0; i + 1 < std::size(order); ++i) {
+    // Top to bottom, the left column first, the commands last.
+    std::vector<QWidget*> order{txtExtrusionLength_, txtIncrements_, optExtrude_[0], optExtrude_[1],
+                                optExtrude_[2],      chkCapEnds_,    List1_};
+    order.insert(order.end(), listButtonWidgets.begin(), listButtonWidgets.end());
+    order.insert(order.end(),
+                 {useAmbient_, cmdColorSelect_, useDiffuse_, cmdColorSelect2_, UseSpecularK_,
+                  HScrollSpecK_, useSpecularN_, HScrollSpecN_, mnuExtrude, mnuPreview, mnuCancel});
+    for (size_t i = 0; i + 1 < order.size(); ++i) {
         setTabOrder(order[i], order[i + 1]);
     }
     showState();
