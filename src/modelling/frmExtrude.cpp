@@ -66,13 +66,11 @@ frmExtrude::frmExtrude(ModalHost& dialogs, ColorChooser& colors, ExtrusionPrevie
     addControl("picDifColor", picDifColor);
     addControl("cmdColorSelect2", cmdColorSelect2, [this] { cmdColorSelect2_Click(); });
     addControl("UseSpecularK", UseSpecularK, [this] { updateSurfaceControls(); });
-    addControl("lblspecularK", lblspecularK);
     addControl("lblReflectionLeast", lblReflectionLeast);
     addControl("lblReflection", lblReflection);
     addControl("lblReflectionMost", lblReflectionMost);
     addControl("HScrollSpecK", HScrollSpecK, [this] { HScrollSpecK_Change(); });
     addControl("useSpecularN", useSpecularN, [this] { updateSurfaceControls(); });
-    addControl("lblspecularN", lblspecularN);
     addControl("lblIntensityLeast", lblIntensityLeast);
     addControl("lblIntensity", lblIntensity);
     addControl("lblIntensityMost", lblIntensityMost);
@@ -334,13 +332,11 @@ void frmExtrude::updateSurfaceControls() {
     lblDifColor.Enabled = useDiffuse.Value;
     picDifColor.Enabled = useDiffuse.Value;
     cmdColorSelect2.Enabled = useDiffuse.Value;
-    for (LabelState* label :
-         {&lblspecularK, &lblReflectionLeast, &lblReflection, &lblReflectionMost}) {
+    for (LabelState* label : {&lblReflectionLeast, &lblReflection, &lblReflectionMost}) {
         label->Enabled = UseSpecularK.Value;
     }
     HScrollSpecK.Enabled = UseSpecularK.Value;
-    for (LabelState* label :
-         {&lblspecularN, &lblIntensityLeast, &lblIntensity, &lblIntensityMost}) {
+    for (LabelState* label : {&lblIntensityLeast, &lblIntensity, &lblIntensityMost}) {
         label->Enabled = useSpecularN.Value;
     }
     HScrollSpecN.Enabled = useSpecularN.Value;

@@ -50,13 +50,11 @@ public:
     SwatchState picDifColor;
     ButtonState cmdColorSelect2{"Select"};
     CheckBoxState UseSpecularK{.Caption = "Use Specular Coefficient"};
-    LabelState lblspecularK;
     LabelState lblReflectionLeast{"Least:"};
     LabelState lblReflection{"Reflection:"};
     LabelState lblReflectionMost{"Most"};
     ScrollBarState HScrollSpecK;
     CheckBoxState useSpecularN{.Caption = "Use Specular Intensity"};
-    LabelState lblspecularN;
     LabelState lblIntensityLeast{"Least:"};
     LabelState lblIntensity{"Intensity:"};
     LabelState lblIntensityMost{"Most"};
