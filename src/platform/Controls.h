@@ -36,6 +36,9 @@ struct ScrollBarState {
     int Min = 0;
     int Max = 32767;
     int Value = 0;
+    int SmallChange = 1; // arrows and arrow keys
+    int LargeChange = 1; // trough clicks and page keys
+    bool Enabled = true;
 
     // The value the bar can show that is nearest to the one asked for.
     int clamped(int value) const {
@@ -51,10 +54,12 @@ struct ScrollBarState {
 // A colour shown as a filled box (red + 256 x green + 65536 x blue).
 struct SwatchState {
     int BackColor = 0;
+    bool Enabled = true;
 };
 
 struct LabelState {
     std::string Caption;
+    bool Enabled = true;
 };
 
 // A command button or a menu item of a dialog.

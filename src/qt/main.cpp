@@ -1,8 +1,12 @@
 #include "app/frmMouseSensivity.h"
 #include "app/frmSplash.h"
 #include "app/frmTolvane.h"
+#include "modelling/frmAdditionalExtrusions.h"
+#include "modelling/frmExtrude.h"
 #include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
+#include "qt/frmAdditionalExtrusionsView.h"
+#include "qt/frmExtrudeView.h"
 #include "qt/frmMouseSensivityView.h"
 #include "qt/frmOrientationView.h"
 #include "qt/frmProfilePropertyView.h"
@@ -21,6 +25,8 @@ int main(int argc, char** argv) {
     dialogs.registerView<frmWorkPlaneProperty, frmWorkPlanePropertyView>();
     dialogs.registerView<frmOrientation, frmOrientationView>();
     dialogs.registerView<frmProfileProperty, frmProfilePropertyView>();
+    dialogs.registerView<frmExtrude, frmExtrudeView>();
+    dialogs.registerView<frmAdditionalExtrusions, frmAdditionalExtrusionsView>();
     frmTolvane form(dialogs);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);

@@ -110,8 +110,8 @@ TEST(NumberText, ParseSingleReadsWholeNumbersOnly) {
         ASSERT_TRUE(parsed.has_value()) << text;
         EXPECT_EQ(*parsed, value) << text;
     }
-    for (const char* text : {"", "   ", "abc", "1,5", "1e", "0x10", "inf", "-nan", ".", "+-1",
-                             "1 2", "2abc", "1e39", "-1e400"}) {
+    for (const char* text : {"", "   ", "abc", "1,5", "1e", "1e+", "0x10", "inf", "-nan", ".", "-",
+                             "+-1", "--1", "1 2", "2abc", "1e39", "3.5e38", "-1e400"}) {
         EXPECT_FALSE(NumberText::parseSingle(text).has_value()) << '"' << text << '"';
     }
 }

@@ -30,6 +30,10 @@ ScriptedModalHost::Step ScriptedModalHost::press(const std::string& button) {
 }
 
 void ScriptedModalHost::showModal(ModalDialog& dialog) {
+    // As in the editor: a dialog that closed while it was set up is not shown.
+    if (dialog.isClosed()) {
+        return;
+    }
     shown_.push_back(dialog.caption());
     std::vector<Step> steps;
     if (!scripts_.empty()) {

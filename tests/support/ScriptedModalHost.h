@@ -12,7 +12,7 @@ class ModalDialog;
 // A modal host in which a test plays the user: for each dialog to be shown it queues the
 // steps the user takes inside it, naming the controls. Showing a dialog runs the next
 // script; a dialog still open when its script ends throws std::logic_error, since a real
-// modal dialog would wait for ever.
+// modal dialog would wait for ever. A dialog already closed is not shown.
 class ScriptedModalHost : public ModalHost {
 public:
     using Step = std::function<void(ModalDialog&)>;
