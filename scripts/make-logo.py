@@ -10,9 +10,9 @@ Usage: scripts/make-logo.py [output path]   (default: resources/logo.png)
 
 import math
 import os
-import struct
 import sys
-import zlib
+
+from pngfile import write_png
 
 SIZE = 400
 
@@ -90,21 +90,6 @@ def draw_word(image, word, left, top, width, height, gap):
             t = (y - top) / height
             colour = (255, 215 - 80 * max(0.0, min(1.0, t)), 60)
             add(image, x, y, colour, coverage(d, 3.0, 3.0))
-
-
-def write_png(path, image):
-    raw = b"".join(b"\x00" + bytes(int(round(c)) for pixel in row for c in pixel) for row in image)
-
-    def chunk(kind, data):
-        return (struct.pack(">I", len(data)) + kind + data +
-                struct.pack(">I", zlib.crc32(kind + data) & 0xFFFFFFFF))
-
-    header = struct.pack(">IIBBBBB", SIZE, SIZE, 8, 2, 0, 0, 0)  # 8 bits, truecolour
-    with open(path, "wb") as f:
-        f.write(b"\x89PNG\r\n\x1a\n")
-        f.write(chunk(b"IHDR", header))
-        f.write(chunk(b"IDAT", zlib.compress(raw, 9)))
-        f.write(chunk(b"IEND", b""))
 
 
 def main():

@@ -9,9 +9,9 @@ Usage: scripts/make-tree-icons.py [output folder]   (default: resources)
 
 import math
 import os
-import struct
 import sys
-import zlib
+
+from pngfile import write_png
 
 SIZE = 16
 SAMPLES = 4  # per pixel and axis, for smooth edges
@@ -109,22 +109,6 @@ def profile(image):
     stroke(image, (0, 100, 255), line, 1.5)
     for x, y in line:
         dot(image, (190, 0, 190), x, y, 1.8)
-
-
-def write_png(path, image):
-    raw = b"".join(b"\x00" + bytes(max(0, min(255, round(c))) for pixel in row for c in pixel)
-                   for row in image)
-
-    def chunk(kind, data):
-        return (struct.pack(">I", len(data)) + kind + data +
-                struct.pack(">I", zlib.crc32(kind + data) & 0xFFFFFFFF))
-
-    header = struct.pack(">IIBBBBB", SIZE, SIZE, 8, 6, 0, 0, 0)  # 8 bits, RGBA
-    with open(path, "wb") as f:
-        f.write(b"\x89PNG\r\n\x1a\n")
-        f.write(chunk(b"IHDR", header))
-        f.write(chunk(b"IDAT", zlib.compress(raw, 9)))
-        f.write(chunk(b"IEND", b""))
 
 
 def main():
