@@ -4,7 +4,6 @@
 #include "interaction/TreeDisplay.h"
 #include "render/FaceRegionEncap.h"
 #include "render/GDIRegion.h"
-#include "render/KorvanOpsConsts.h"
 #include "scene/Transformed3d.h"
 
 #include <string>
@@ -20,18 +19,11 @@ std::optional<viewInfo> ClickHandleFaceSelector::handleLeftClick(MouseEventArgs&
         return std::nullopt;
     }
     const Matrix4 full = fullMatrix(args);
-    float ex;
-    float ey;
-    float ez;
-    KorvanOpsConsts::getEyePosition(args.viewSpecs->getSpecs(), ex, ey, ez);
     args.messageReceiver.resetAllSelect();
     std::vector<std::shared_ptr<Face3d>> hits;
     int32_t s = 1;
     for (const auto& object : args.solids) {
-        // Projected for this viewport alone: the last redraw may have been another's.
-        object->Culled(false);
-        object->cull(ex, ey, ez);
-        object->ApplyFull(full);
+        projectForClick(*object, args, full);
         for (const auto& pair :
              object->createFaceRegionEncaps(true, true, GDIRegion::WindingFill)) {
             if (pair->getRegion()->inRegion(args.mouseX, args.mouseY)) {

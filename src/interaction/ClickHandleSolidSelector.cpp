@@ -3,7 +3,6 @@
 #include "interaction/ClickReceiver.h"
 #include "interaction/TreeDisplay.h"
 #include "render/GDIRegion.h"
-#include "render/KorvanOpsConsts.h"
 #include "scene/Transformed3d.h"
 
 #include <algorithm>
@@ -14,18 +13,11 @@ std::optional<viewInfo> ClickHandleSolidSelector::handleLeftClick(MouseEventArgs
         return std::nullopt;
     }
     const Matrix4 full = fullMatrix(args);
-    float ex;
-    float ey;
-    float ez;
-    KorvanOpsConsts::getEyePosition(args.viewSpecs->getSpecs(), ex, ey, ez);
     args.messageReceiver.resetAllSelect();
     std::vector<std::shared_ptr<Transformed3d>> hits;
     int32_t s = 1;
     for (const auto& object : args.solids) {
-        // Projected for this viewport alone: the last redraw may have been another's.
-        object->Culled(false);
-        object->cull(ex, ey, ez);
-        object->ApplyFull(full);
+        projectForClick(*object, args, full);
         const auto regions = object->createRegions(true, true, GDIRegion::WindingFill);
         const bool hit = std::any_of(regions.begin(), regions.end(), [&](const auto& region) {
             return region->inRegion(args.mouseX, args.mouseY);
