@@ -91,8 +91,9 @@ void ViewCommands::bind(MainMenu& menus, frmTolvane& window, ViewportSet& viewpo
         {"mnuPopupViewSide", KorvanOpsConsts::viewSide},
         {"mnuPopupViewFront", KorvanOpsConsts::viewFront},
         {"mnuPopupViewIsometric", KorvanOpsConsts::viewIsometric}};
-    for (const auto& [name, view] : views) {
-        menus.bind(name, [popup, view] {
+    for (const auto& entry : views) {
+        const int view = entry.second;
+        menus.bind(entry.first, [popup, view] {
             popup([view](ViewSpecs& r) { KorvanOpsConsts::setOrthoView(view, r); });
         });
     }
