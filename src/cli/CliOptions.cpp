@@ -305,10 +305,11 @@ and --transform as it judges what is typed into it):
   --mode MODE        in (the normal's side), out (the other side) or split
                      (half to each side) (default in)
   --no-caps          leave both ends open
-  --transform ENTRY  an additional transformation at every step, such as
-                     Rotate(0,0,0.6), Translate(1,0,0) or Scale(0.5,0.5,1):
-                     the whole amount is reached over all steps; angles in
-                     radians. May be given more than once; applied in order.
+  --transform ENTRY  an additional transformation at every step: Translate,
+                     Rotate (radians) or Scale with three values, such as
+                     Rotate(0,0,0.6); each step applies the values divided by
+                     the subdivisions, about the world origin. May be given
+                     more than once; applied in order.
   --ambient R,G,B    ambient colour, each channel 0 to 255 (default: the
                      middle coefficient 0.5 for every channel)
   --diffuse R,G,B    diffuse colour, likewise
@@ -329,6 +330,8 @@ Exit status:
      output cannot be written; an existing OUT is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
      missing input or output, wrong output extension
-Every error is reported as one line "korvan-cli: ..." on standard error.
+Every error is reported as one line "korvan-cli: ..." on standard error. What the
+extrusion dialog reports without refusing (a normal parallel to the y axis, which
+its vectors cannot convert) follows as "korvan-cli: warning: ..." lines.
 )";
 }
