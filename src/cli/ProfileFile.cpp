@@ -5,6 +5,7 @@
 #include "io/FileBytes.h"
 #include "scene/Profile.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -40,18 +41,20 @@ std::shared_ptr<Profile> ProfileFile::read(FileSystem& files, const std::string&
     const auto refuse = [&](const std::string& where, const std::string& what) {
         return CliError("cannot read " + name + where + ": " + what, CliError::failure);
     };
+    const std::string tooLarge =
+        "a profile file may not exceed " + std::to_string(maxBytes) + " bytes";
     // Asked first, so that a huge file is refused before anything is read.
     FileSystem::Status status;
     if (!files.status(path, status) && status.kind == FileSystem::Kind::Regular &&
         status.size > maxBytes) {
-        throw refuse("", "a profile file may not exceed " + std::to_string(maxBytes) + " bytes");
+        throw refuse("", tooLarge);
     }
     std::vector<uint8_t> bytes;
     if (const std::error_code error = FileBytes::read(files, path, 0, bytes)) {
         throw CliError("cannot open " + name + ": " + CliError::reason(error), CliError::failure);
     }
     if (bytes.size() > maxBytes) { // it grew since it was asked
-        throw refuse("", "a profile file may not exceed " + std::to_string(maxBytes) + " bytes");
+        throw refuse("", tooLarge);
     }
 
     auto profile = std::make_shared<Profile>();
