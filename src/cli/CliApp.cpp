@@ -2,6 +2,8 @@
 
 #include "app/SceneDocument.h"
 #include "cli/CliError.h"
+#include "cli/HeadlessExtrusion.h"
+#include "cli/ProfileFile.h"
 #include "cli/SvgCanvas.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
@@ -21,10 +23,6 @@
 
 namespace {
 
-std::string quoted(const std::string& path) {
-    return "'" + path + "'";
-}
-
 // A control character in a file name must not split the message over several lines.
 std::string oneLine(std::string message) {
     for (char& c : message) {
@@ -33,15 +31,6 @@ std::string oneLine(std::string message) {
         }
     }
     return message;
-}
-
-// The system's description of an error, as the end of a sentence.
-std::string reason(const std::error_code& error) {
-    std::string text = error.message();
-    if (!text.empty()) {
-        text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
-    }
-    return text;
 }
 
 std::string jsonString(const std::string& text) {
@@ -93,13 +82,17 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
         case CliOptions::Command::Info:
             info(options, out);
             break;
+        case CliOptions::Command::Extrude:
+            extrude(options, err);
+            break;
         }
         if (!out.flush()) {
             const int error = errno;
-            throw CliError(
-                "cannot write to standard output" +
-                    (error != 0 ? ": " + reason({error, std::generic_category()}) : std::string()),
-                CliError::failure);
+            throw CliError("cannot write to standard output" +
+                               (error != 0
+                                    ? ": " + CliError::reason({error, std::generic_category()})
+                                    : std::string()),
+                           CliError::failure);
         }
         return 0;
     } catch (const CliError& error) {
@@ -114,12 +107,12 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
     }
 }
 
-// Reads the scene with read (openDrawable or countFile), or throws with what went wrong.
+// Reads the scene with read (OpenFile, openDrawable or countFile), or throws with what went wrong.
 template <class Read> auto CliApp::readScene(const std::string& path, Read read) const {
     // The reader cleans names as it does those from the file dialog; a name it would change
     // would make it read a different file.
     if (TavrinMeshIO::normalizeFileName(path) != path) {
-        throw CliError("cannot open " + quoted(path) +
+        throw CliError("cannot open " + CliError::quoted(path) +
                            ": a scene's name must end in .tvm and consist of printable ASCII "
                            "characters",
                        CliError::failure);
@@ -130,7 +123,7 @@ template <class Read> auto CliApp::readScene(const std::string& path, Read read)
     if (!result) {
         const std::error_code error = meshIO.getLastError();
         throw CliError((error == FileError::corrupt ? "cannot read " : "cannot open ") +
-                           quoted(path) + ": " + reason(error),
+                           CliError::quoted(path) + ": " + CliError::reason(error),
                        CliError::failure);
     }
     return *std::move(result);
@@ -138,14 +131,15 @@ template <class Read> auto CliApp::readScene(const std::string& path, Read read)
 
 void CliApp::writeOutput(const std::string& path, std::span<const uint8_t> content) const {
     if (const std::error_code error = FileOverwriter(files_).overwrite(path, content)) {
-        throw CliError("cannot write " + quoted(path) + ": " + reason(error), CliError::failure);
+        throw CliError("cannot write " + CliError::quoted(path) + ": " + CliError::reason(error),
+                       CliError::failure);
     }
 }
 
 void CliApp::render(const CliOptions& options) const {
     SceneDocument document = SceneDocument::startUp();
     // Objects without faces change nothing in the picture: leave them out.
-    document.solids = readScene(options.scene, &TavrinMeshIO::openDrawable);
+    document.solids = readScene(options.input, &TavrinMeshIO::openDrawable);
     document.showGrid = !options.noGrid;
     document.showZeroAxes = !options.noAxes;
     document.showReferenceAxes = !options.noAxes;
@@ -189,7 +183,8 @@ void CliApp::render(const CliOptions& options) const {
     QBuffer buffer(&encoded);
     buffer.open(QIODevice::WriteOnly);
     if (!canvas.image().save(&buffer, options.format == CliOptions::Format::Bmp ? "BMP" : "PNG")) {
-        throw CliError("cannot write " + quoted(options.output) + ": the picture cannot be encoded",
+        throw CliError("cannot write " + CliError::quoted(options.output) +
+                           ": the picture cannot be encoded",
                        CliError::failure);
     }
     writeOutput(options.output, {reinterpret_cast<const uint8_t*>(encoded.constData()),
@@ -197,12 +192,31 @@ void CliApp::render(const CliOptions& options) const {
 }
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
-    const auto objects = readScene(options.scene, &TavrinMeshIO::countFile);
-    out << "{\"file\": " << jsonString(options.scene) << ", \"objects\": " << objects.size()
+    const auto objects = readScene(options.input, &TavrinMeshIO::countFile);
+    out << "{\"file\": " << jsonString(options.input) << ", \"objects\": " << objects.size()
         << ", \"items\": [";
     for (size_t i = 0; i < objects.size(); ++i) {
         out << (i > 0 ? ", " : "") << "{\"points\": " << objects[i].points
             << ", \"faces\": " << objects[i].faces << "}";
     }
     out << "]}\n";
+}
+
+void CliApp::extrude(const CliOptions& options, std::ostream& err) const {
+    const auto profile = ProfileFile::read(files_, options.input);
+    ObjectList solids;
+    if (!options.extrusion.addTo.empty()) {
+        solids = readScene(options.extrusion.addTo, &TavrinMeshIO::OpenFile);
+    }
+    const HeadlessExtrusion::Result made = HeadlessExtrusion::run(profile, options.extrusion);
+    for (const std::string& message : made.messages) {
+        err << "korvan-cli: warning: " << oneLine(message) << '\n';
+    }
+    solids.push_back(made.extrusion);
+    TavrinMeshIO meshIO(files_);
+    if (!meshIO.saveFile(solids, options.output)) {
+        throw CliError("cannot write " + CliError::quoted(options.output) + ": " +
+                           CliError::reason(meshIO.getLastError()),
+                       CliError::failure);
+    }
 }

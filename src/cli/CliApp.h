@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-// korvan-cli: renders or describes a mesh file headless, through the editor's own pipeline.
+// korvan-cli: renders or describes a mesh file headless, through the editor's own pipeline,
+// or makes one by the editor's own extrusion.
 class CliApp {
 public:
     // Works on the system's own files.
@@ -27,6 +28,8 @@ private:
     void writeOutput(const std::string& path, std::span<const uint8_t> content) const;
     void render(const CliOptions& options) const;
     void info(const CliOptions& options, std::ostream& out) const;
+    // Notes the dialog shows without refusing go to err as warnings.
+    void extrude(const CliOptions& options, std::ostream& err) const;
 
     FileSystem& files_;
 };

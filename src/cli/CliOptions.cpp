@@ -1,8 +1,12 @@
 #include "cli/CliOptions.h"
 
 #include "cli/CliError.h"
+#include "geometry/PackedColor.h"
+#include "io/TavrinMeshIO.h"
+#include "modelling/Tokens.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -37,20 +41,21 @@ int parseView(const std::string& value) {
     throw badValue("--view", value, "top, side, front or iso");
 }
 
-// A whole number from 1 to maxSide, digits only; false for anything else.
-bool parseSide(const std::string& text, int& side) {
+// A whole number from low to high, digits only; false for anything else.
+bool parseWhole(const std::string& text, int low, int high, int& number) {
     if (text.empty() || !std::all_of(text.begin(), text.end(),
                                      [](unsigned char c) { return std::isdigit(c) != 0; })) {
         return false;
     }
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
-    return error == std::errc() && end == text.data() + text.size() && side >= 1 && side <= maxSide;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() && number >= low &&
+           number <= high;
 }
 
 void parseSize(const std::string& value, int& width, int& height) {
     const auto x = value.find('x');
-    if (x == std::string::npos || !parseSide(value.substr(0, x), width) ||
-        !parseSide(value.substr(x + 1), height)) {
+    if (x == std::string::npos || !parseWhole(value.substr(0, x), 1, maxSide, width) ||
+        !parseWhole(value.substr(x + 1), 1, maxSide, height)) {
         throw badValue("--size", value, "WIDTHxHEIGHT, each 1 to " + std::to_string(maxSide));
     }
 }
@@ -81,6 +86,106 @@ CliOptions::Format outputFormat(const std::string& output) {
     throw usageError("output file '" + output + "' must end in .png, .bmp or .svg");
 }
 
+int32_t parseColor(const std::string& option, const std::string& value) {
+    std::array<int, 3> channels{};
+    std::string rest = value;
+    for (size_t i = 0; i < channels.size(); ++i) {
+        const size_t comma = i + 1 < channels.size() ? rest.find(',') : rest.size();
+        if (comma == std::string::npos || !parseWhole(rest.substr(0, comma), 0, 255, channels[i])) {
+            throw badValue(option, value, "R,G,B, each a whole number 0 to 255");
+        }
+        rest.erase(0, comma + 1);
+    }
+    return PackedColor::pack(channels[0], channels[1], channels[2]);
+}
+
+int parsePercent(const std::string& option, const std::string& value) {
+    int number = 0;
+    if (!parseWhole(value, 0, 100, number)) {
+        throw badValue(option, value, "a whole number 0 to 100");
+    }
+    return number;
+}
+
+// The dialog's own picker makes only these three kinds; the dialog passes over any other
+// name silently, which on a command line would hide a typing error.
+const std::string& checkTransform(const std::string& value) {
+    std::string rest = value;
+    const std::string name = Tokens::getNextToken(rest, "(");
+    if (name != "Translate" && name != "Rotate" && name != "Scale") {
+        throw badValue("--transform", value, "Translate(X,Y,Z), Rotate(X,Y,Z) or Scale(X,Y,Z)");
+    }
+    return value;
+}
+
+CliOptions::Extrusion::Orientation parseOrientation(const std::string& value) {
+    using Orientation = CliOptions::Extrusion::Orientation;
+    if (value == "in") {
+        return Orientation::In;
+    }
+    if (value == "out") {
+        return Orientation::Out;
+    }
+    if (value == "split") {
+        return Orientation::Split;
+    }
+    throw badValue("--mode", value, "in, out or split");
+}
+
+// Takes one option of render; false when arg is none of them. value() takes the option's value.
+template <class Value>
+bool parseRenderOption(const std::string& arg, Value value, CliOptions& options) {
+    if (arg == "--view") {
+        options.view = parseView(value());
+    } else if (arg == "--parallel") {
+        options.parallel = true;
+    } else if (arg == "--size") {
+        parseSize(value(), options.width, options.height);
+    } else if (arg == "--zoom") {
+        options.zoom = parseZoom(value());
+    } else if (arg == "--wireframe") {
+        options.wireframe = true;
+    } else if (arg == "--no-backface") {
+        options.noBackface = true;
+    } else if (arg == "--no-grid") {
+        options.noGrid = true;
+    } else if (arg == "--no-axes") {
+        options.noAxes = true;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// Likewise for extrude.
+template <class Value>
+bool parseExtrudeOption(const std::string& arg, Value value, CliOptions::Extrusion& extrusion) {
+    if (arg == "--length") {
+        extrusion.length = value();
+    } else if (arg == "--subdivisions") {
+        extrusion.subdivisions = value();
+    } else if (arg == "--mode") {
+        extrusion.orientation = parseOrientation(value());
+    } else if (arg == "--no-caps") {
+        extrusion.capEnds = false;
+    } else if (arg == "--transform") {
+        extrusion.transforms.push_back(checkTransform(value()));
+    } else if (arg == "--ambient") {
+        extrusion.ambient = parseColor(arg, value());
+    } else if (arg == "--diffuse") {
+        extrusion.diffuse = parseColor(arg, value());
+    } else if (arg == "--specular-k") {
+        extrusion.specularK = parsePercent(arg, value());
+    } else if (arg == "--specular-n") {
+        extrusion.specularN = parsePercent(arg, value());
+    } else if (arg == "--add-to") {
+        extrusion.addTo = value();
+    } else {
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 CliOptions CliOptions::parse(const std::vector<std::string>& args) {
@@ -96,6 +201,8 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         options.command = Command::Render;
     } else if (args[0] == "info") {
         options.command = Command::Info;
+    } else if (args[0] == "extrude") {
+        options.command = Command::Extrude;
     } else {
         throw usageError("unknown command '" + args[0] + "' (try --help)");
     }
@@ -103,10 +210,10 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& arg = args[i];
         if (arg.size() < 2 || arg[0] != '-') {
-            if (!options.scene.empty()) {
+            if (!options.input.empty()) {
                 throw usageError("unexpected argument '" + arg + "'");
             }
-            options.scene = arg;
+            options.input = arg;
             continue;
         }
         if (options.command == Command::Info) {
@@ -120,29 +227,17 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         };
         if (arg == "-o") {
             options.output = value();
-        } else if (arg == "--view") {
-            options.view = parseView(value());
-        } else if (arg == "--parallel") {
-            options.parallel = true;
-        } else if (arg == "--size") {
-            parseSize(value(), options.width, options.height);
-        } else if (arg == "--zoom") {
-            options.zoom = parseZoom(value());
-        } else if (arg == "--wireframe") {
-            options.wireframe = true;
-        } else if (arg == "--no-backface") {
-            options.noBackface = true;
-        } else if (arg == "--no-grid") {
-            options.noGrid = true;
-        } else if (arg == "--no-axes") {
-            options.noAxes = true;
-        } else {
+        } else if (!(options.command == Command::Render
+                         ? parseRenderOption(arg, value, options)
+                         : parseExtrudeOption(arg, value, options.extrusion))) {
             throw usageError("unknown option '" + arg + "' (try --help)");
         }
     }
 
-    if (options.scene.empty()) {
-        throw usageError("no scene file given (try --help)");
+    const bool extrude = options.command == Command::Extrude;
+    if (options.input.empty()) {
+        throw usageError(extrude ? "no profile file given (try --help)"
+                                 : "no scene file given (try --help)");
     }
     if (options.command == Command::Render) {
         if (options.output.empty()) {
@@ -150,27 +245,45 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         }
         options.format = outputFormat(options.output);
     }
+    if (extrude) {
+        if (options.output.empty()) {
+            throw usageError("extrude needs an output file: -o OUT.tvm");
+        }
+        // The writer cleans names as it does those from the file dialog; a name it would
+        // change would make it write a different file.
+        if (TavrinMeshIO::normalizeFileName(options.output) != options.output) {
+            throw usageError("output file '" + options.output +
+                             "' must end in .tvm and consist of printable ASCII characters");
+        }
+    }
     return options;
 }
 
 std::string CliOptions::helpText() {
     return R"(Usage: korvan-cli render SCENE.tvm -o OUT [options]
        korvan-cli info SCENE.tvm
+       korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
        korvan-cli -h | --help
 
-Draws or describes a Tavrin Mesh File (.tvm) without opening the editor.
+Draws, describes or makes Tavrin Mesh Files (.tvm) without opening the editor.
 
 Commands:
-  render  Draws the file's solids the way one viewport of the editor draws them,
-          grid and axes included, and writes the picture to OUT. OUT ends in
-          .png or .bmp for an image, or .svg for a drawing with one element per
-          drawing call. With the defaults (--view iso, 800x600) the picture is
-          what the editor's start-up viewport of that size shows.
-  info    Writes one line of JSON on standard output: the file name as given,
-          the number of objects and, per object, its points and faces:
-            {"file": "a.tvm", "objects": 1, "items": [{"points": 20, "faces": 18}]}
+  render   Draws the file's solids the way one viewport of the editor draws them,
+           grid and axes included, and writes the picture to OUT. OUT ends in
+           .png or .bmp for an image, or .svg for a drawing with one element per
+           drawing call. With the defaults (--view iso, 800x600) the picture is
+           what the editor's start-up viewport of that size shows.
+  info     Writes one line of JSON on standard output: the file name as given,
+           the number of objects and, per object, its points and faces:
+             {"file": "a.tvm", "objects": 1, "items": [{"points": 20, "faces": 18}]}
+  extrude  Extrudes the profile in PROFILE.txt as the editor's Extrude dialog does
+           with its controls set from the options, and saves the new solid to
+           OUT.tvm (after the solids of --add-to, when given). PROFILE.txt holds
+           one point per line, three numbers x y z separated by blanks, in the
+           profile's order; a closed profile repeats its first point as its last
+           line. Blank lines are skipped.
 
-Options (render only; they may come before or after SCENE.tvm):
+Options of render (they may come before or after SCENE.tvm):
   -o OUT         output file ending in .png, .bmp or .svg (required)
   --view VIEW    top, side, front or iso (default iso)
   --parallel     parallel projection (default perspective)
@@ -182,18 +295,43 @@ Options (render only; they may come before or after SCENE.tvm):
                  --wireframe the faces turned away are outlined too
   --no-grid      leave out the grid
   --no-axes      leave out both axes glyphs (zero axes and reference axes)
+
+Options of extrude (the dialog judges the texts of --length, --subdivisions
+and --transform as it judges what is typed into it):
+  -o OUT.tvm         output file (required)
+  --length TEXT      extrusion length (default 1)
+  --subdivisions TEXT
+                     number of equal steps, 1 or more (default 1)
+  --mode MODE        in (the normal's side), out (the other side) or split
+                     (half to each side) (default in)
+  --no-caps          leave both ends open
+  --transform ENTRY  an additional transformation at every step: Translate,
+                     Rotate (radians) or Scale with three values, such as
+                     Rotate(0,0,0.6); each step applies the values divided by
+                     the subdivisions, about the world origin. May be given
+                     more than once; applied in order.
+  --ambient R,G,B    ambient colour, each channel 0 to 255 (default: the
+                     middle coefficient 0.5 for every channel)
+  --diffuse R,G,B    diffuse colour, likewise
+  --specular-k V     specular coefficient V percent, 0 to 100 (default 50)
+  --specular-n V     specular exponent V, 0 to 100 (default 50)
+  --add-to IN.tvm    a scene whose solids come first in OUT.tvm
+
   -h, --help     show this text and exit
 
 The scene's name must end in .tvm and consist of printable ASCII characters,
-as the editor's own file dialogs produce.
+as the editor's own file dialogs produce; so must OUT.tvm.
 
 Exit status:
   0  success
-  1  the scene cannot be read (missing, not a regular file, not a .tvm
-     name, corrupt) or the output or standard output cannot be written;
-     an existing OUT is then left as it was
+  1  the work failed: a scene or profile cannot be read (missing, not a
+     regular file, not a .tvm name, corrupt, malformed), the extrusion is
+     refused (its message is the dialog's own), or the output or standard
+     output cannot be written; an existing OUT is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
-     missing scene or output, wrong output extension
-Every error is reported as one line "korvan-cli: ..." on standard error.
+     missing input or output, wrong output extension
+Every error is reported as one line "korvan-cli: ..." on standard error. What the
+extrusion dialog reports without refusing (a normal parallel to the y axis, which
+its vectors cannot convert) follows as "korvan-cli: warning: ..." lines.
 )";
 }

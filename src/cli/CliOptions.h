@@ -2,17 +2,38 @@
 
 #include "render/KorvanOpsConsts.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 // The command line of korvan-cli, parsed and checked before any file is touched.
 struct CliOptions {
-    enum class Command { Help, Render, Info };
+    enum class Command { Help, Render, Info, Extrude };
     enum class Format { Png, Bmp, Svg };
 
+    // What the extrusion dialog's controls are to hold; the texts are typed in as given, so
+    // that the dialog itself judges them.
+    struct Extrusion {
+        // The dialog's orientation options, in their order.
+        enum class Orientation { In, Out, Split };
+
+        std::string length = "1";
+        std::string subdivisions = "1";
+        Orientation orientation = Orientation::In;
+        bool capEnds = true;
+        std::vector<std::string> transforms;
+        // Packed colours and scroll-bar values; nothing leaves the group's check box unchecked.
+        std::optional<int32_t> ambient;
+        std::optional<int32_t> diffuse;
+        std::optional<int> specularK;
+        std::optional<int> specularN;
+        std::string addTo; // the scene whose objects come first, or ""
+    };
+
     Command command = Command::Help;
-    std::string scene;  // as the user wrote it
-    std::string output; // render only
+    std::string input;  // the scene (render, info) or the profile (extrude), as the user wrote it
+    std::string output; // render and extrude
     Format format = Format::Png;
     int view = KorvanOpsConsts::viewIsometric;
     bool parallel = false;
@@ -23,6 +44,7 @@ struct CliOptions {
     bool noBackface = false;
     bool noGrid = false;
     bool noAxes = false;
+    Extrusion extrusion;
 
     // The arguments after the program name. Throws CliError with the usage status for
     // anything it cannot make sense of; -h or --help anywhere asks for the help text.

@@ -1,9 +1,11 @@
 #include "app/frmTolvane.h"
 #include "cli/CliApp.h"
 #include "cli/SvgCanvas.h"
+#include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
 #include "io/TavrinMeshIO.h"
 #include "platform/ModalHost.h"
+#include "scene/Face3d.h"
 #include "scene/Transformed3d.h"
 #include "support/FaultyFileSystem.h"
 
@@ -253,4 +255,160 @@ TEST_F(CliEndToEnd, RefusedFilesAreNamedAsSuchAndAFailedWriteKeepsTheOldOutput) 
     std::ostream broken(nullptr);
     EXPECT_EQ(CliApp().run({"--help"}, broken, err), 1);
     EXPECT_EQ(err.str(), "korvan-cli: cannot write to standard output\n");
+}
+
+namespace {
+
+// A closed square standing on a corner in the plane z = 0, its normal +z.
+const char* const diamond = "0 0 0\n1 1 0\n0 2 0\n-1 1 0\n0 0 0\n";
+
+// The lowest and highest z of the object's points.
+std::pair<float, float> zRange(const Transformed3d& object) {
+    float low = 0;
+    float high = 0;
+    for (const auto& point : object.getPoints()) {
+        low = std::min(low, point->getRecord().coord.z);
+        high = std::max(high, point->getRecord().coord.z);
+    }
+    return {low, high};
+}
+
+std::vector<std::shared_ptr<Transformed3d>> openScene(const fs::path& path) {
+    std::string name = path.string();
+    return TavrinMeshIO().OpenFile(name).value_or(ObjectList{});
+}
+
+} // namespace
+
+TEST_F(CliEndToEnd, ExtrudesAProfileAsTheDialogDoesAfterTheScenesSolids) {
+    std::ofstream(dir_ / "diamond.txt") << diamond;
+    const Outcome made = run("extrude " + at("diamond.txt") + " -o " + at("diamond.tvm") +
+                             " --subdivisions 2 --specular-k 37");
+    EXPECT_EQ(made.status, 0);
+    EXPECT_EQ(made.out, "");
+    EXPECT_EQ(made.err, "");
+    const auto solids = openScene(dir_ / "diamond.tvm");
+    ASSERT_EQ(solids.size(), 1u);
+    // Two segments of the five curve points at both their ends; two triangles per edge in
+    // each segment and the two caps.
+    EXPECT_EQ(solids[0]->getPoints().size(), 20u);
+    const FaceList faces = solids[0]->getFaces();
+    ASSERT_EQ(faces.size(), 18u);
+    EXPECT_FLOAT_EQ(faces.back()->SpecularK, 0.37f);
+    EXPECT_FLOAT_EQ(faces.back()->AmbientKr, 0.5f);
+    EXPECT_FLOAT_EQ(zRange(*solids[0]).second, 1.0f);
+
+    // Out of the other side, from a CRLF file with a blank line, after the two prisms.
+    std::ofstream(dir_ / "crlf.txt") << "0 0 0\r\n1 1 0\r\n\r\n0\t2 0\r\n-1 1 0\r\n0 0 0";
+    const Outcome added =
+        run("extrude " + at("crlf.txt") + " --mode out --length 2 --no-caps --diffuse 255,0,128" +
+            " --transform 'Scale(0.5,0.5,0.5)' -o " + at("added.tvm") + " --add-to " + scene_);
+    EXPECT_EQ(added.status, 0) << added.err;
+    const auto scene = openScene(dir_ / "added.tvm");
+    ASSERT_EQ(scene.size(), 3u);
+    EXPECT_EQ(scene[0]->getFaces().size(), 10u);
+    EXPECT_EQ(scene[1]->getFaces().size(), 10u);
+    // One segment for the translation and one for the scaling, no caps.
+    EXPECT_EQ(scene[2]->getPoints().size(), 20u);
+    const FaceList sides = scene[2]->getFaces();
+    ASSERT_EQ(sides.size(), 16u);
+    EXPECT_FLOAT_EQ(sides.front()->DiffuseKr, 255.0f / 256.0f);
+    EXPECT_FLOAT_EQ(sides.front()->DiffuseKg, 0.0f);
+    EXPECT_FLOAT_EQ(sides.front()->DiffuseKb, 128.0f / 256.0f);
+    EXPECT_FLOAT_EQ(zRange(*scene[2]).first, -2.0f);
+
+    // The normal of a profile on the ground is parallel to the y axis, which the vectors'
+    // spherical form cannot hold: the editor says so and extrudes all the same.
+    std::ofstream(dir_ / "ground.txt") << "0 0 0\n1 0 0\n1 0 1\n0 0 1\n0 0 0\n";
+    const Outcome ground = run("extrude " + at("ground.txt") + " -o " + at("ground.tvm"));
+    EXPECT_EQ(ground.status, 0);
+    EXPECT_EQ(ground.err, "korvan-cli: warning: 3D Vector Cartesian->Spherical uncalculatable!\n");
+    EXPECT_EQ(openScene(dir_ / "ground.tvm").size(), 1u);
+}
+
+TEST_F(CliEndToEnd, RefusedExtrusionsSayWhyAndWriteNothing) {
+    std::ofstream(dir_ / "diamond.txt") << diamond;
+    std::ofstream(dir_ / "flat.txt") << "0 0 0\n1 0 0\n0 0 0\n";
+    std::ofstream(dir_ / "short.txt") << "0 0 0\n1 0 0\n\n";
+    std::ofstream(dir_ / "pair.txt") << "0 0 0\n1 0\n1 0 1\n0 0 0\n";
+    std::ofstream(dir_ / "word.txt") << "0 0 0\n1 0 0\n1 0 1e39\n0 0 0\n";
+    // Sparse: the size counts, not the bytes.
+    fs::create_directories(dir_ / "big");
+    std::ofstream(dir_ / "big" / "huge.txt") << diamond;
+    fs::resize_file(dir_ / "big" / "huge.txt", 1 << 30);
+#ifdef __SANITIZE_ADDRESS__
+    const std::string limit; // the sanitizer's shadow memory alone exceeds any useful limit
+#else
+    // The huge profile is refused before it is read: reading it would exceed this.
+    const std::string limit = "prlimit --data=67108864";
+#endif
+    const std::string to = " -o " + at("out.tvm");
+    const std::string extrude = "extrude " + at("diamond.txt") + to;
+    const auto cannotRead = [&](const std::string& name, const std::string& what) {
+        return "korvan-cli: cannot read '" + (dir_ / name).string() + "'" + what + "\n";
+    };
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {extrude + " --length abc",
+         "korvan-cli: Invalid Extrusion Length.  Value must be present and numeric.\n"},
+        {extrude + " --subdivisions 0.5",
+         "korvan-cli: Invalid Extrusion Increment.  Value must be present and greater than or "
+         "equal to 1.\n"},
+        {extrude + " --transform 'Rotate(0,x,1)'",
+         "korvan-cli: Invalid Additional Transformation Rotate(0,x,1).  Its three values must be "
+         "present and numeric.\n"},
+        {"extrude " + at("flat.txt") + to,
+         "korvan-cli: Profile is of un-extrudable shape.  Please redraw or alter profile.\n"},
+        {"extrude " + at("short.txt") + to,
+         cannotRead("short.txt", ": a profile needs at least 3 points (a closed profile repeats "
+                                 "its first point), found 2")},
+        {"extrude " + at("pair.txt") + to,
+         cannotRead("pair.txt", " line 2: expected three numbers x y z, found 2 values")},
+        {"extrude " + at("word.txt") + to,
+         cannotRead("word.txt", " line 3: value 3 is not a number that a single float can hold")},
+        {"extrude " + at("big/huge.txt") + to,
+         cannotRead("big/huge.txt", ": a profile file may not exceed 4194304 bytes")},
+        {"extrude " + at("big") + to,
+         "korvan-cli: cannot open '" + (dir_ / "big").string() + "': is a directory\n"},
+        {extrude + " --add-to " + at("missing.tvm"), "korvan-cli: cannot open '" +
+                                                         (dir_ / "missing.tvm").string() +
+                                                         "': no such file or directory\n"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const Outcome outcome = run(arguments, "", limit);
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_EQ(outcome.err, message) << arguments;
+        EXPECT_FALSE(fs::exists(dir_ / "out.tvm")) << arguments;
+    }
+}
+
+TEST_F(CliEndToEnd, BadExtrusionOptionsAreUsageErrors) {
+    std::ofstream(dir_ / "diamond.txt") << diamond;
+    const std::string extrude = "extrude " + at("diamond.txt") + " -o " + at("out.tvm");
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {extrude + " --ambient 256,0,0",
+         "invalid value '256,0,0' for --ambient (expected R,G,B, each a whole number 0 to 255)"},
+        {extrude + " --diffuse 1,2", "invalid value '1,2' for --diffuse (expected R,G,B, each a "
+                                     "whole number 0 to 255)"},
+        {extrude + " --diffuse 1,2,3,4", "invalid value '1,2,3,4' for --diffuse (expected R,G,B, "
+                                         "each a whole number 0 to 255)"},
+        {extrude + " --specular-n 101",
+         "invalid value '101' for --specular-n (expected a whole number 0 to 100)"},
+        {extrude + " --mode sideways",
+         "invalid value 'sideways' for --mode (expected in, out or split)"},
+        {extrude + " --transform 'Twist(1,2,3)'",
+         "invalid value 'Twist(1,2,3)' for --transform (expected Translate(X,Y,Z), "
+         "Rotate(X,Y,Z) or Scale(X,Y,Z))"},
+        {extrude + " --view top", "unknown option '--view' (try --help)"},
+        {"extrude " + at("diamond.txt"), "extrude needs an output file: -o OUT.tvm"},
+        {"extrude " + at("diamond.txt") + " -o " + at("out.obj"),
+         "output file '" + (dir_ / "out.obj").string() +
+             "' must end in .tvm and consist of printable ASCII characters"},
+        {"extrude -o " + at("out.tvm"), "no profile file given (try --help)"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.err, "korvan-cli: " + message + "\n") << arguments;
+    }
+    EXPECT_FALSE(fs::exists(dir_ / "out.tvm"));
 }
