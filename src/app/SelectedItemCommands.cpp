@@ -47,8 +47,8 @@ void SelectedItemCommands::Extrude() {
 }
 
 void SelectedItemCommands::showSelectedProperties() {
-    // The selected faces' dialogs open here, then the selected solids', before the
-    // workplanes'.
+    // Each selected face's dialog (frmFaceProperty), then each selected solid's
+    // (frmSolidProperty), opens here, before the workplanes'.
     for (const auto& workPlane : selection_.selectedWorkplanes) {
         frmWorkPlaneProperty dialog(colors_);
         dialog.initialize(workPlane);
