@@ -6,7 +6,6 @@
 #include "app/SelectionState.h"
 #include "app/ViewportSet.h"
 #include "app/frmTolvane.h"
-#include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
 #include "geometry/Pi.h"
 #include "geometry/Vector3D.h"
