@@ -72,6 +72,7 @@ void FileCommands::New() {
     window_.resetAllSelect();
     document_.solids.clear();
     document_.profiles.clear();
+    document_.currentProfile.reset(); // it has left the document with the others
     document_.workPlanes.clear();
     window_.rebuildTree();
 }

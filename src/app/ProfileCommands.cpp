@@ -1,19 +1,75 @@
 #include "app/ProfileCommands.h"
 
+#include "app/MainMenu.h"
 #include "app/SceneDocument.h"
+#include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/ViewportSet.h"
+#include "app/frmTolvane.h"
 #include "geometry/M3Ops.h"
 #include "geometry/Pi.h"
 #include "geometry/Vector3D.h"
+#include "interaction/ClickHandleProfile.h"
+#include "modelling/frmOrientation.h"
+#include "platform/ModalHost.h"
 #include "platform/Prompts.h"
+#include "scene/COrientation.h"
+#include "scene/Orientation2D.h"
 #include "scene/Profile.h"
 #include "scene/WorkPlane.h"
 
-void ProfileCommands::addProfilePoint(PointRecord r) {
-    if (!document.currentProfile) {
+#include <any>
+#include <string>
+#include <vector>
+
+void ProfileCommands::bind(MainMenu& menus) {
+    for (const char* name : {"mnuCreateProfile", "mnuPopupProfile"}) {
+        menus.bind(name, [this] { startProfile(); });
+    }
+    menus.bind("mnuCloseProfile", [this] { closeProfile(); });
+    menus.bind("mnuRedrawProfile", [this] { redrawProfile(); });
+    menus.bind("mnuCancelProfile", [this] { cancelProfile(); });
+}
+
+void ProfileCommands::startProfile() {
+    window_.setMouseMode(std::make_unique<ClickHandleProfile>());
+    createProfile();
+}
+
+void ProfileCommands::createProfile() {
+    const auto& workPlanes = selection_.selectedWorkplanes;
+    if (workPlanes.size() > 1) {
+        showMessage("Only one workplane can be selected for use in profile creation.  Please "
+                    "reselect one workplane to continue.",
+                    "Cannot create profile", MessageIcon::Information);
         return;
     }
-    const auto& workPlanes = selection.selectedWorkplanes;
+    if (workPlanes.empty()) {
+        showMessage("No workplane was selected for profile creation.  Please select a workplane "
+                    "by using the workplane selector.",
+                    "Cannot create profile", MessageIcon::Information);
+        return;
+    }
+    const WorkPlane& wp = *workPlanes.front();
+    auto profile = std::make_shared<Profile>();
+    document_.profiles.push_back(profile);
+    setCurrentProfile(profile);
+    // The fourth viewport looks along the workplane's normal while the profile is drawn.
+    ViewSpecs& eye = viewports_.viewSpecs(4);
+    eye.EyePhi = wp.getXRotation();
+    eye.EyeTheta = static_cast<float>(wp.getYRotation() + 1.570796326794895);
+    window_.redrawAllViewports();
+}
+
+void ProfileCommands::setCurrentProfile(const std::shared_ptr<Profile>& profile) {
+    document_.currentProfile = profile;
+}
+
+void ProfileCommands::addProfilePoint(PointRecord r) {
+    if (!document_.currentProfile) {
+        return;
+    }
+    const auto& workPlanes = selection_.selectedWorkplanes;
     if (workPlanes.size() != 1) {
         showMessage(workPlanes.empty()
                         ? "Cannot add profile point since no workplanes were selected.  Please "
@@ -36,15 +92,86 @@ void ProfileCommands::addProfilePoint(PointRecord r) {
     r.trans = Point4{};
     M3Ops::transformPoint(r.coord, shift, r.trans);
     r.coord = r.trans;
-    document.currentProfile->addPointRecord(r);
+    document_.currentProfile->addPointRecord(r);
 }
 
 bool ProfileCommands::closeProfile() {
-    if (!document.currentProfile) {
+    const auto profile = document_.currentProfile;
+    if (!profile) {
         showMessage("No profiles have been created that can be closed.  First create a "
                     "workplane, then create a profile on that workplane.  Only then is the "
                     "profile closable",
                     "Error Closing Profile", MessageIcon::None);
+        return false;
     }
+    if (profile->getPointCount() < 2) {
+        return false;
+    }
+    // The same point object again, so that the outline ends exactly where it began.
+    profile->addCPoint(profile->getCPoint(1));
+
+    // The profile tool's guess; another mode has none to offer.
+    std::vector<std::any> datum;
+    std::vector<std::any> castGuide;
+    window_.getMouseMode().getData(datum, castGuide);
+    COrientation guess;
+    guess.setOrientation(Orientation2D::Unknown);
+    if (!datum.empty()) {
+        if (const auto* reported = std::any_cast<COrientation>(&datum.front())) {
+            guess = *reported;
+        }
+    }
+    frmOrientation dialog;
+    dialog.initialize(guess);
+    dialogs_.showModal(dialog);
+
+    tree_.addProfileNode(profile, "Profile");
+    if (dialog.hasConfirmed()) {
+        if (dialog.getOrientation().getOrientation() == Orientation2D::CounterClockWise) {
+            profile->changeOrientation(); // profiles are kept clockwise
+        }
+    } else {
+        const auto n = static_cast<int32_t>(document_.profiles.size());
+        window_.removeProfile(n, "r" + std::to_string(n));
+    }
+    window_.setMouseMode(std::make_unique<ClickHandleNothing>());
     return false;
+}
+
+bool ProfileCommands::hasProfileFor(const char* refusal) const {
+    if (document_.profiles.empty() || !document_.currentProfile) {
+        showMessage(refusal, "Error redrawing profile", MessageIcon::None);
+        return false;
+    }
+    return true;
+}
+
+bool ProfileCommands::confirmed(const char* question, const char* title) const {
+    return activePrompts().messageBox(question, title, MessageIcon::None, MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
+
+void ProfileCommands::removeLastProfile() {
+    const auto n = static_cast<int32_t>(document_.profiles.size());
+    document_.removeProfile(n);
+    // A profile still being drawn has no node; a closed one has, numbered as its position.
+    tree_.removeNode("r" + std::to_string(n));
+}
+
+void ProfileCommands::redrawProfile() {
+    if (!hasProfileFor("Error, no profiles found to redraw.") ||
+        !confirmed("Are you sure you want to redraw your profile?", "Redrawing Profile")) {
+        return;
+    }
+    removeLastProfile();
+    startProfile();
+}
+
+void ProfileCommands::cancelProfile() {
+    if (!hasProfileFor("Error, no profiles found to cancel.") ||
+        !confirmed("Are you sure you want to cancel your profile?", "Canceling Profile")) {
+        return;
+    }
+    removeLastProfile();
+    window_.setMouseMode(std::make_unique<ClickHandleNothing>());
 }

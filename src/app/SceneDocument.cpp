@@ -18,6 +18,17 @@ SceneDocument SceneDocument::startUp() {
     return document;
 }
 
+void SceneDocument::removeProfile(int32_t n) {
+    if (n < 1 || static_cast<size_t>(n) > profiles.size()) {
+        return;
+    }
+    const auto removed = profiles.begin() + (n - 1);
+    if (*removed == currentProfile) {
+        currentProfile.reset();
+    }
+    profiles.erase(removed);
+}
+
 ViewportScene SceneDocument::scene() const {
     return ViewportScene{solids,       light_sources,       workPlanes,     profiles,
                          grid.get(),   referenceAxes.get(), zeroAxes.get(), showGrid,

@@ -3,6 +3,7 @@
 #include "render/LightSource.h"
 #include "render/ViewportScene.h"
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct SceneDocument {
     LightList light_sources;
     std::vector<std::shared_ptr<WorkPlane>> workPlanes;
     std::vector<std::shared_ptr<Profile>> profiles;
+    // The profile being drawn, or the one last closed; nothing once it has left profiles, so
+    // that the profile commands never work on a profile the document no longer has.
     std::shared_ptr<Profile> currentProfile;
     std::shared_ptr<GridSolid3D> grid;
     std::shared_ptr<AxesXYZ> referenceAxes;
@@ -34,6 +37,10 @@ struct SceneDocument {
     // The document as the editor starts: no objects, four white lights, the 20 x 20 grid
     // and both axes glyphs, every switch on.
     static SceneDocument startUp();
+
+    // Removes profile n (1-based; another number removes nothing), forgetting it as the
+    // current profile when it is that.
+    void removeProfile(int32_t n);
 
     // What a viewport redraw paints of it; valid while the document lives.
     ViewportScene scene() const;

@@ -3,6 +3,7 @@
 #include "app/ModeCommands.h"
 #include "app/TreeKey.h"
 #include "app/ViewCommands.h"
+#include "app/WorkplaneCommands.h"
 #include "app/frmMouseSensivity.h"
 #include "geometry/Rounding.h"
 #include "interaction/ClickHandleRotate.h"
@@ -21,8 +22,7 @@ frmTolvane::frmTolvane(ModalHost& dialogs)
     menus.bind("mnuSetMouseSensivity", [this] { mnuSetMouseSensivity_Click(); });
     ViewCommands::bind(menus, *this, viewports);
     ModeCommands::bind(menus, *this);
-    // Workplane and profile creation, extrusion, the Profile menu and Property come with
-    // their commands; "&Graphic Creation" does nothing.
+    profileCommands.bind(menus);
 }
 
 void frmTolvane::attachCanvases(const std::array<Canvas*, 4>& canvases) {
@@ -34,6 +34,10 @@ void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChoose
     fileDialog.emplace(files, colors);
     fileCommands.emplace(*this, document, TreeView1, meshIO, viewports, *fileDialog, frame);
     fileCommands->bind(menus);
+    // The dialogs of these commands have colour swatches.
+    WorkplaneCommands::bind(menus, modalHost, colors, document, TreeView1);
+    selectedItemCommands.emplace(*this, document, selection, TreeView1, modalHost, colors);
+    selectedItemCommands->bind(menus);
 }
 
 void frmTolvane::Form_Load() {
@@ -142,7 +146,9 @@ void frmTolvane::removeWorkplane(int32_t n, const std::string& key) {
 }
 
 void frmTolvane::removeProfile(int32_t n, const std::string& key) {
-    removeItem(document.profiles, n, key);
+    document.removeProfile(n);
+    TreeView1.removeNode(key);
+    redrawAllViewports();
 }
 
 template <class Item>
@@ -208,12 +214,26 @@ void frmTolvane::TreeView1_KeyDown(int KeyCode) {
     refreshMenus();
 }
 
+void frmTolvane::createProfile() {
+    profileCommands.createProfile();
+}
+
+void frmTolvane::setCurrentProfile(const std::shared_ptr<Profile>& profile) {
+    profileCommands.setCurrentProfile(profile);
+}
+
 void frmTolvane::addProfilePoint(const PointRecord& r) {
     profileCommands.addProfilePoint(r);
 }
 
 bool frmTolvane::closeProfile() {
     return profileCommands.closeProfile();
+}
+
+void frmTolvane::showSelectedProperties() {
+    if (selectedItemCommands) {
+        selectedItemCommands->showSelectedProperties();
+    }
 }
 
 void frmTolvane::mnuSetMouseSensivity_Click() {
@@ -308,9 +328,12 @@ void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y
 }
 
 void frmTolvane::Form_KeyDown(int KeyCode) {
-    // Enter (13, properties) and E (69, extrude) come with their commands.
-    if (KeyCode == 67) {
+    if (KeyCode == 13) {
+        showSelectedProperties();
+    } else if (KeyCode == 67) {
         closeProfile();
+    } else if (KeyCode == 69 && selectedItemCommands) {
+        selectedItemCommands->Extrude();
     }
     redrawAllViewports();
     refreshMenus();

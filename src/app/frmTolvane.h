@@ -6,12 +6,14 @@
 #include "app/ProfileCommands.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
+#include "app/SelectedItemCommands.h"
 #include "app/SelectionState.h"
 #include "app/ViewportSet.h"
 #include "interaction/ClickHandleNothing.h"
 #include "interaction/ClickReceiver.h"
 #include "io/CommonDialogNoOCX.h"
 #include "io/TavrinMeshIO.h"
+#include "modelling/ExtrusionPreviewTarget.h"
 
 #include <array>
 #include <cstdint>
@@ -27,10 +29,13 @@ class WindowFrame;
 
 // The main window's logic: the one object mouse modes and dialogs call back. Each of its
 // operations hands the work to a collaborator: the document, the selection, the scene tree,
-// the viewports. It also holds the sensitivity and the mouse mode and dispatches mouse
-// events on the canvases to the mode. The Qt view (qt/frmTolvaneView) shows it and forwards
-// the window's events; the canvases are the view's, attached with attachCanvases.
-class frmTolvane : public ClickReceiver, public MouseSensivityTarget {
+// the viewports, the command groups. It also holds the sensitivity and the mouse mode and
+// dispatches mouse events on the canvases to the mode. The Qt view (qt/frmTolvaneView) shows
+// it and forwards the window's events; the canvases are the view's, attached with
+// attachCanvases.
+class frmTolvane : public ClickReceiver,
+                   public MouseSensivityTarget,
+                   public ExtrusionPreviewTarget {
 public:
     // The start-up document; dialogs are shown through modalHost.
     explicit frmTolvane(ModalHost& dialogs);
@@ -50,8 +55,9 @@ public:
     void layoutViewports();
     void redrawAllViewports();
 
-    std::optional<viewInfo> getViewInfo(int32_t index) const;
-    void getPicOrthoBounds(int32_t& lower, int32_t& upper) const;
+    std::optional<viewInfo> getViewInfo(int32_t index) const override;
+    void getPicOrthoBounds(int32_t& lower, int32_t& upper) const override;
+    Canvas* getPicOrtho(int32_t index) const override { return viewports.canvas(index); }
     void setMouseSensivity(float Sensivity) override { MouseSensivity = Sensivity; }
     float getMouseSensivity() const { return MouseSensivity; }
     void HandleCollectedDatum() {}
@@ -84,9 +90,14 @@ public:
     void TreeView1_KeyDown(int KeyCode);
     SceneTreeModel& getSceneTree() { return TreeView1; }
 
-    // What the profile tool calls back.
+    // The profile being drawn: a new one on the selected workplane, the current one, and
+    // what the profile tool calls back.
+    void createProfile();
+    void setCurrentProfile(const std::shared_ptr<Profile>& profile);
     void addProfilePoint(const PointRecord& r) override;
     bool closeProfile() override;
+    // The property dialogs of everything selected, then a redraw; nothing before attachFrame.
+    void showSelectedProperties();
 
     // Mouse events of canvas picOrtho(index): button codes 1 left, 2 right, 4 middle and
     // their sums; coordinates in canvas pixels.
@@ -95,7 +106,8 @@ public:
 
     // Options, "&Set Mouse Sensivity": the sensitivity dialog, modally.
     void mnuSetMouseSensivity_Click();
-    // A key pressed in the window (key codes of the desktop: 13 Enter, 67 C, 69 E).
+    // A key pressed in the window (key codes of the desktop): Enter (13) shows the selected
+    // items' properties, C (67) closes the profile, E (69) extrudes the selected profiles.
     void Form_KeyDown(int KeyCode);
 
     // The menu bar and the pop-up menu, with their commands bound.
@@ -134,7 +146,7 @@ private:
     SelectionState selection;
     SceneTreeModel TreeView1;
     ViewportSet viewports;
-    ProfileCommands profileCommands{document, selection};
+    ProfileCommands profileCommands{*this, document, selection, TreeView1, viewports, modalHost};
     float MouseSensivity = 0.0025f;
     int32_t popupViewport = 0;
     std::unique_ptr<ClickHandleNothing> mouseMode;
@@ -143,4 +155,5 @@ private:
     WindowFrame* windowFrame = nullptr;
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
+    std::optional<SelectedItemCommands> selectedItemCommands;
 };

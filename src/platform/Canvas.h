@@ -55,6 +55,12 @@ public:
     virtual void moveTo(int x, int y) = 0;
     virtual void lineTo(int x, int y) = 0;
     virtual void textOut(int x, int y, const std::string& text) = 0;
+    // The size of a line of text as textOut writes it, for placing it. A canvas without a
+    // font of its own writes 11-pixel text and measures it in cells 6 wide and 13 high.
+    virtual int textWidth(const std::string& text) const {
+        return 6 * static_cast<int>(text.size());
+    }
+    virtual int textHeight() const { return 13; }
     // Fills the whole canvas with the back colour.
     virtual void clear() = 0;
     // Shows what was drawn since the last refresh.

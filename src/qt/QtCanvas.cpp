@@ -126,6 +126,14 @@ void QtCanvas::textOut(int x, int y, const std::string& text) {
     painter.drawText(x, y + fontAscent_, QString::fromStdString(text));
 }
 
+int QtCanvas::textWidth(const std::string& text) const {
+    return QFontMetrics(font_).horizontalAdvance(QString::fromStdString(text));
+}
+
+int QtCanvas::textHeight() const {
+    return QFontMetrics(font_).height();
+}
+
 void QtCanvas::clear() {
     image_.fill(toQColor(backColor()));
 }

@@ -30,6 +30,8 @@ public:
     void moveTo(int x, int y) override;
     void lineTo(int x, int y) override;
     void textOut(int x, int y, const std::string& text) override;
+    int textWidth(const std::string& text) const override;
+    int textHeight() const override;
     void clear() override;
     void refresh() override;
     void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy, int sw,

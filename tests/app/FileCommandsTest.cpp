@@ -61,7 +61,7 @@ TEST(FileCommands, NewAsksAndEmptiesTheDocumentOnlyOnYes) {
     EXPECT_TRUE(document.workPlanes.empty());
     EXPECT_TRUE(document.profiles.empty());
     EXPECT_EQ(w.form.getSceneTree().root().children().size(), 0u);
-    EXPECT_NE(document.currentProfile, nullptr); // kept
+    EXPECT_EQ(document.currentProfile, nullptr); // it left the document with the others
 }
 
 TEST(FileCommands, OpenReadsTheFileAndAFailureLeavesNoObjectBehind) {

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -109,6 +110,26 @@ TEST(QtCanvas, TextOutWritesBelowAndRightOfItsPoint) {
         }
     }
     EXPECT_GT(lit, 10);
+}
+
+TEST(QtCanvas, TextSizeBoundsTheWrittenTextSoThatItCanBeRightAligned) {
+    QtCanvas canvas(120, 40);
+    canvas.setForeColor(0xFFFFFF);
+    const std::string text = "Z Dist: -1.5";
+    canvas.textOut(0, 0, text);
+    int right = -1;
+    int bottom = -1;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 120; ++x) {
+            if (at(canvas, x, y) != Black) {
+                right = std::max(right, x);
+                bottom = std::max(bottom, y);
+            }
+        }
+    }
+    EXPECT_LT(right, canvas.textWidth(text));
+    EXPECT_GE(right, canvas.textWidth(text) - 3);
+    EXPECT_LT(bottom, canvas.textHeight());
 }
 
 TEST(QtCanvas, StretchBlitOrScalesAndCombines) {

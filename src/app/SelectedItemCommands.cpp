@@ -1,0 +1,63 @@
+#include "app/SelectedItemCommands.h"
+
+#include "app/MainMenu.h"
+#include "app/SceneDocument.h"
+#include "app/SceneTreeModel.h"
+#include "app/SelectionState.h"
+#include "app/frmTolvane.h"
+#include "modelling/frmExtrude.h"
+#include "modelling/frmProfileProperty.h"
+#include "modelling/frmWorkPlaneProperty.h"
+#include "platform/ModalHost.h"
+#include "platform/Prompts.h"
+#include "scene/Transformed3d.h"
+
+#include <exception>
+
+void SelectedItemCommands::bind(MainMenu& menus) {
+    for (const char* name : {"mnuCreateExtrusion", "mnuPopupExtrude"}) {
+        menus.bind(name, [this] { Extrude(); });
+    }
+    menus.bind("mnuProperty", [this] { showSelectedProperties(); });
+}
+
+void SelectedItemCommands::Extrude() {
+    if (selection_.selectedProfiles.empty()) {
+        showMessage("Unable to extrude since no profiles were selected.  Please select profile "
+                    "before extruding.",
+                    "Extrusion Error", MessageIcon::Information);
+        return;
+    }
+    for (const auto& profile : selection_.selectedProfiles) {
+        try {
+            frmExtrude dialog(dialogs_, colors_, window_);
+            dialog.initialize(profile);
+            dialogs_.showModal(dialog);
+            if (const auto object = dialog.getExtrusion()) {
+                document_.solids.push_back(object);
+                const auto n = static_cast<int32_t>(document_.solids.size());
+                tree_.addSolidNode(object, n, "Solid");
+            }
+        } catch (const std::exception&) {
+            showMessage("Profile is of un-extrudable shape.  Please redraw or alter profile.",
+                        "Unable to Extrude Profile", MessageIcon::Information);
+            return;
+        }
+    }
+}
+
+void SelectedItemCommands::showSelectedProperties() {
+    // Each selected face's dialog (frmFaceProperty), then each selected solid's
+    // (frmSolidProperty), opens here, before the workplanes'.
+    for (const auto& workPlane : selection_.selectedWorkplanes) {
+        frmWorkPlaneProperty dialog(colors_);
+        dialog.initialize(workPlane);
+        dialogs_.showModal(dialog);
+    }
+    for (const auto& profile : selection_.selectedProfiles) {
+        frmProfileProperty dialog;
+        dialog.initialize(profile);
+        dialogs_.showModal(dialog);
+    }
+    window_.redrawAllViewports();
+}
