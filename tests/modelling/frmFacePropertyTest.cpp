@@ -1,5 +1,6 @@
 #include "modelling/frmFaceProperty.h"
 
+#include "geometry/CPoint3D.h"
 #include "modelling/frmPointIndexSelect.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
