@@ -37,11 +37,12 @@ TEST_F(frmFacePropertyOnACube, CoefficientsRoundTripThroughTheSwatchesAndBars) {
     face->AmbientKg = 1.0f;
     face->AmbientKb = 0.0f;
     face->DiffuseKg = 0.25f;
+    face->DiffuseKb = 0.3f; // 76.8: the nearest channel, not the one below
     face->SpecularK = 0.29f;
     face->SpecularN = 150.0f;
     open();
     EXPECT_EQ(form.picAmbColor.BackColor, 128 + 256 * 255);
-    EXPECT_EQ(form.picDifColor.BackColor, 256 * 64);
+    EXPECT_EQ(form.picDifColor.BackColor, 256 * 64 + 65536 * 77);
     EXPECT_EQ(form.HScrollSpecK.Value, 29);
     EXPECT_EQ(form.lblReflection.Caption, "Reflection: 29%");
     // An exponent beyond the bar shows at its end, and the label tells the true value.
@@ -54,6 +55,7 @@ TEST_F(frmFacePropertyOnACube, CoefficientsRoundTripThroughTheSwatchesAndBars) {
     EXPECT_EQ(face->AmbientKg, 255.0f / 256.0f);
     EXPECT_EQ(face->AmbientKb, 0.0f);
     EXPECT_EQ(face->DiffuseKg, 0.25f);
+    EXPECT_EQ(face->DiffuseKb, 77.0f / 256.0f);
     EXPECT_FLOAT_EQ(face->SpecularK, 0.29f);
     EXPECT_EQ(face->SpecularN, 150.0f);
 }
