@@ -2,6 +2,7 @@
 
 #include "geometry/PackedColor.h"
 #include "geometry/Rounding.h"
+#include "platform/ColorChooser.h"
 
 namespace SurfaceControls {
 
@@ -12,6 +13,13 @@ int32_t swatchColor(float kr, float kg, float kb) {
 
 float coefficient(int channel) {
     return static_cast<float>(channel) / 256.0f;
+}
+
+void chooseColor(ColorChooser& colors, SwatchState& swatch) {
+    const int32_t color = colors.chooseColor(swatch.BackColor);
+    if (color != -1) {
+        swatch.BackColor = color;
+    }
 }
 
 ScrollBarState specularScale() {

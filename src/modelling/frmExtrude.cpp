@@ -9,7 +9,6 @@
 #include "modelling/SurfaceControls.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "platform/Canvas.h"
-#include "platform/ColorChooser.h"
 #include "platform/ModalHost.h"
 #include "platform/Prompts.h"
 #include "scene/Profile.h"
@@ -298,19 +297,12 @@ void frmExtrude::cmdMoveDownTrans_Click() {
     moveSelectedEntry(1);
 }
 
-void frmExtrude::chooseColor(SwatchState& swatch) {
-    const int32_t color = colors_.chooseColor(swatch.BackColor);
-    if (color != -1) {
-        swatch.BackColor = color;
-    }
-}
-
 void frmExtrude::cmdColorSelect_Click() {
-    chooseColor(picAmbColor);
+    SurfaceControls::chooseColor(colors_, picAmbColor);
 }
 
 void frmExtrude::cmdColorSelect2_Click() {
-    chooseColor(picDifColor);
+    SurfaceControls::chooseColor(colors_, picDifColor);
 }
 
 void frmExtrude::HScrollSpecK_Change() {

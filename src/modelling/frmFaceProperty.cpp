@@ -5,7 +5,6 @@
 #include "geometry/Rounding.h"
 #include "modelling/SurfaceControls.h"
 #include "modelling/frmPointIndexSelect.h"
-#include "platform/ColorChooser.h"
 #include "platform/ModalHost.h"
 #include "platform/Prompts.h"
 #include "scene/Face3d.h"
@@ -73,19 +72,12 @@ void frmFaceProperty::fillList(int selected) {
     listPointIndex.ListIndex = selected;
 }
 
-void frmFaceProperty::chooseColor(SwatchState& swatch) {
-    const int32_t color = colors_.chooseColor(swatch.BackColor);
-    if (color != -1) {
-        swatch.BackColor = color;
-    }
-}
-
 void frmFaceProperty::cmdColorSelect_Click() {
-    chooseColor(picAmbColor);
+    SurfaceControls::chooseColor(colors_, picAmbColor);
 }
 
 void frmFaceProperty::Command1_Click() {
-    chooseColor(picDifColor);
+    SurfaceControls::chooseColor(colors_, picDifColor);
 }
 
 void frmFaceProperty::HScrollSpecK_Change() {

@@ -72,7 +72,6 @@ private:
     std::optional<int32_t> pickPoint(int32_t goToPointIndex);
     // Lists the edited indices with the given line selected (-1: none).
     void fillList(int selected);
-    void chooseColor(SwatchState& swatch);
 
     ModalHost& dialogs_;
     ColorChooser& colors_;

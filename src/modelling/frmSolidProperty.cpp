@@ -2,7 +2,6 @@
 
 #include "geometry/PackedColor.h"
 #include "modelling/SurfaceControls.h"
-#include "platform/ColorChooser.h"
 #include "scene/Transformed3d.h"
 
 frmSolidProperty::frmSolidProperty(ColorChooser& colors) : colors_(colors) {
@@ -60,19 +59,12 @@ void frmSolidProperty::updateEnabled() {
     HScrollSpecN.Enabled = useSpecularN.Value;
 }
 
-void frmSolidProperty::chooseColor(SwatchState& swatch) {
-    const int32_t color = colors_.chooseColor(swatch.BackColor);
-    if (color != -1) {
-        swatch.BackColor = color;
-    }
-}
-
 void frmSolidProperty::cmdColorSelect_Click() {
-    chooseColor(picAmbColor);
+    SurfaceControls::chooseColor(colors_, picAmbColor);
 }
 
 void frmSolidProperty::cmdColorSelect2_Click() {
-    chooseColor(picDifColor);
+    SurfaceControls::chooseColor(colors_, picDifColor);
 }
 
 void frmSolidProperty::HScrollSpecK_Change() {

@@ -57,7 +57,6 @@ public:
 
 private:
     void updateEnabled();
-    void chooseColor(SwatchState& swatch);
 
     ColorChooser& colors_;
     std::shared_ptr<Transformed3d> object_;

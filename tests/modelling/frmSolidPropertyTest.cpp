@@ -51,7 +51,8 @@ TEST_F(frmSolidPropertyOnACube, AGroupIsEnabledWhileItsBoxIsTicked) {
 }
 
 TEST_F(frmSolidPropertyOnACube, AcceptWritesTheTickedGroupsToEveryFace) {
-    form.setChecked("useAmbient", true); // mid grey, never chosen
+    form.setChecked("useAmbient", true);
+    form.press("cmdColorSelect"); // cancelled: the swatch keeps its mid grey
     form.setChecked("useDiffuse", true);
     colors.queueAnswer(PackedColor::pack(64, 128, 255));
     form.press("cmdColorSelect2");
