@@ -6,7 +6,9 @@
 #include "app/SelectionState.h"
 #include "app/frmTolvane.h"
 #include "modelling/frmExtrude.h"
+#include "modelling/frmFaceProperty.h"
 #include "modelling/frmProfileProperty.h"
+#include "modelling/frmSolidProperty.h"
 #include "modelling/frmWorkPlaneProperty.h"
 #include "platform/ModalHost.h"
 #include "platform/Prompts.h"
@@ -47,8 +49,16 @@ void SelectedItemCommands::Extrude() {
 }
 
 void SelectedItemCommands::showSelectedProperties() {
-    // Each selected face's dialog (frmFaceProperty), then each selected solid's
-    // (frmSolidProperty), opens here, before the workplanes'.
+    for (const auto& face : selection_.selectedFaces) {
+        frmFaceProperty dialog(dialogs_, colors_);
+        dialog.initialize(face);
+        dialogs_.showModal(dialog);
+    }
+    for (const auto& object : selection_.selectedSolids) {
+        frmSolidProperty dialog(colors_);
+        dialog.initialize(object);
+        dialogs_.showModal(dialog);
+    }
     for (const auto& workPlane : selection_.selectedWorkplanes) {
         frmWorkPlaneProperty dialog(colors_);
         dialog.initialize(workPlane);

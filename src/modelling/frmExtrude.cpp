@@ -6,9 +6,9 @@
 #include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
 #include "modelling/ExtrusionSteps.h"
+#include "modelling/SurfaceControls.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "platform/Canvas.h"
-#include "platform/ColorChooser.h"
 #include "platform/ModalHost.h"
 #include "platform/Prompts.h"
 #include "scene/Profile.h"
@@ -29,11 +29,6 @@ Vector3D difference(const PointRecord& p, const PointRecord& q) {
     Vector3D v;
     v.initializeXYZ(p.coord.x - q.coord.x, p.coord.y - q.coord.y, p.coord.z - q.coord.z);
     return v;
-}
-
-// The coefficient of one colour channel: 0 to 255 over 256.
-float channel(int value) {
-    return static_cast<float>(value) / 256.0f;
 }
 
 } // namespace
@@ -82,9 +77,8 @@ frmExtrude::frmExtrude(ModalHost& dialogs, ColorChooser& colors, ExtrusionPrevie
 }
 
 void frmExtrude::Form_Load() {
-    for (ScrollBarState* bar : {&HScrollSpecK, &HScrollSpecN}) {
-        *bar = ScrollBarState{.Min = 0, .Max = 100, .Value = 0, .SmallChange = 1, .LargeChange = 5};
-    }
+    HScrollSpecK = SurfaceControls::specularScale();
+    HScrollSpecN = SurfaceControls::specularScale();
     // Mid grey, so that choosing "Use" without a colour keeps the default coefficients.
     picAmbColor.BackColor = PackedColor::pack(128, 128, 128);
     picDifColor.BackColor = PackedColor::pack(128, 128, 128);
@@ -204,17 +198,18 @@ void frmExtrude::mnuExtrude_Click() {
     result_->Transform(chkCapEnds.Value);
 
     // Unused surface groups keep the middle of their range.
+    using SurfaceControls::coefficient;
     const PackedColor ambient = PackedColor::split(picAmbColor.BackColor);
     const PackedColor diffuse = PackedColor::split(picDifColor.BackColor);
     if (useAmbient.Value) {
-        result_->SetAmbientCoefficients(channel(ambient.red), channel(ambient.green),
-                                        channel(ambient.blue));
+        result_->SetAmbientCoefficients(coefficient(ambient.red), coefficient(ambient.green),
+                                        coefficient(ambient.blue));
     } else {
         result_->SetAmbientCoefficients(0.5f, 0.5f, 0.5f);
     }
     if (useDiffuse.Value) {
-        result_->SetDiffuseCoefficients(channel(diffuse.red), channel(diffuse.green),
-                                        channel(diffuse.blue));
+        result_->SetDiffuseCoefficients(coefficient(diffuse.red), coefficient(diffuse.green),
+                                        coefficient(diffuse.blue));
     } else {
         result_->SetDiffuseCoefficients(0.5f, 0.5f, 0.5f);
     }
@@ -302,27 +297,20 @@ void frmExtrude::cmdMoveDownTrans_Click() {
     moveSelectedEntry(1);
 }
 
-void frmExtrude::chooseColor(SwatchState& swatch) {
-    const int32_t color = colors_.chooseColor(swatch.BackColor);
-    if (color != -1) {
-        swatch.BackColor = color;
-    }
-}
-
 void frmExtrude::cmdColorSelect_Click() {
-    chooseColor(picAmbColor);
+    SurfaceControls::chooseColor(colors_, picAmbColor);
 }
 
 void frmExtrude::cmdColorSelect2_Click() {
-    chooseColor(picDifColor);
+    SurfaceControls::chooseColor(colors_, picDifColor);
 }
 
 void frmExtrude::HScrollSpecK_Change() {
-    lblReflection.Caption = "Reflection: " + std::to_string(HScrollSpecK.Value) + "%";
+    lblReflection.Caption = SurfaceControls::reflectionCaption(HScrollSpecK.Value);
 }
 
 void frmExtrude::HScrollSpecN_Change() {
-    lblIntensity.Caption = "Intensity: " + std::to_string(HScrollSpecN.Value);
+    lblIntensity.Caption = SurfaceControls::intensityCaption(std::to_string(HScrollSpecN.Value));
 }
 
 void frmExtrude::updateSurfaceControls() {

@@ -97,7 +97,6 @@ private:
     void refuse(TextBoxState& box, const std::string& message);
     // The profile's points as the sweep takes them for the extrusion vector E.
     std::vector<Point4> sweptCurve(const Vector3D& E) const;
-    void chooseColor(SwatchState& swatch);
     bool hasSelectedEntry() const;
     // Moves the selected entry step places, the ends wrapping round; it stays selected.
     void moveSelectedEntry(int step);

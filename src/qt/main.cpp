@@ -3,13 +3,19 @@
 #include "app/frmTolvane.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "modelling/frmExtrude.h"
+#include "modelling/frmFaceProperty.h"
+#include "modelling/frmPointIndexSelect.h"
+#include "modelling/frmSolidProperty.h"
 #include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
 #include "qt/frmAdditionalExtrusionsView.h"
 #include "qt/frmExtrudeView.h"
+#include "qt/frmFacePropertyView.h"
 #include "qt/frmMouseSensivityView.h"
 #include "qt/frmOrientationView.h"
+#include "qt/frmPointIndexSelectView.h"
 #include "qt/frmProfilePropertyView.h"
+#include "qt/frmSolidPropertyView.h"
 #include "qt/frmSplashView.h"
 #include "qt/frmTolvaneView.h"
 #include "qt/frmWorkPlaneParametricView.h"
@@ -27,6 +33,9 @@ int main(int argc, char** argv) {
     dialogs.registerView<frmProfileProperty, frmProfilePropertyView>();
     dialogs.registerView<frmExtrude, frmExtrudeView>();
     dialogs.registerView<frmAdditionalExtrusions, frmAdditionalExtrusionsView>();
+    dialogs.registerView<frmFaceProperty, frmFacePropertyView>();
+    dialogs.registerView<frmPointIndexSelect, frmPointIndexSelectView>();
+    dialogs.registerView<frmSolidProperty, frmSolidPropertyView>();
     frmTolvane form(dialogs);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);

@@ -7,6 +7,7 @@
 #include "scene/Profile.h"
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
+#include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
@@ -83,14 +84,21 @@ TEST(SelectedItemCommands, AnErrorWhileExtrudingEndsTheCommandKeepingEarlierSoli
     EXPECT_EQ(w.prompts.messages()[0].icon, MessageIcon::Information);
 }
 
-TEST(SelectedItemCommands, PropertiesOpenWorkplanesThenProfilesThenRedraw) {
+TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw) {
     TestWindow w;
+    auto object = std::make_shared<Transformed3d>();
+    object->setSolid(makeCube(0.5f));
     auto workPlane = std::make_shared<WorkPlane>();
     workPlane->initialize(3, 0, 0, 0, 0);
+    // Set in the reverse of the order the dialogs open in.
     w.form.setSelectedProfiles({square()});
     w.form.setSelectedWorkplanes({workPlane});
+    w.form.setSelectedSolids({object});
+    w.form.setSelectedFaces({object->getFaces().front()});
     std::string size;
     size_t listed = 0;
+    w.dialogs.queueDialog({Host::press("mnuCancel")});
+    w.dialogs.queueDialog({Host::press("mnuCancel")});
     w.dialogs.queueDialog({[&size](ModalDialog& dialog) {
                                size = static_cast<frmWorkPlaneProperty&>(dialog).Text1.Text;
                            },
@@ -104,13 +112,15 @@ TEST(SelectedItemCommands, PropertiesOpenWorkplanesThenProfilesThenRedraw) {
     w.form.picOrtho_MouseMove(3, 0, 0, 5, 5); // events bring the menus up to date
     w.choose({"&Selectors", "&Property <enter>"});
     EXPECT_EQ(w.dialogs.shown(),
-              (std::vector<std::string>{"Workplane Properties", "Profile Properties"}));
+              (std::vector<std::string>{"Face Properties", "Solid Properties",
+                                        "Workplane Properties", "Profile Properties"}));
     EXPECT_EQ(size, "3");
     EXPECT_EQ(listed, 5u);
     EXPECT_FALSE(w.canvases[3].calls().empty()); // redrawn after the last dialog
 
-    w.dialogs.queueDialog({Host::press("mnuCancel")});
-    w.dialogs.queueDialog({Host::press("mnuCancel")});
+    for (int i = 0; i < 4; ++i) {
+        w.dialogs.queueDialog({Host::press("mnuCancel")});
+    }
     w.form.Form_KeyDown(13);
-    EXPECT_EQ(w.dialogs.shown().size(), 4u);
+    EXPECT_EQ(w.dialogs.shown().size(), 8u);
 }
