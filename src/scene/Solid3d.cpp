@@ -3,6 +3,7 @@
 #include "geometry/CPoint3D.h"
 #include "render/FaceRegionEncap.h"
 #include "render/GDIRegion.h"
+#include "scene/FaceOrder.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -222,69 +223,8 @@ void Solid3d::CheckVisibility(int32_t x1, int32_t y1, int32_t x2, int32_t y2) {
     visible_ = std::llabs(dy) < 71 || std::llabs(dx) < 71;
 }
 
-namespace {
-
-struct SortItem {
-    std::shared_ptr<Face3d> face;
-    float xmin, xmax, ymin, ymax, zmin, zmax;
-};
-
-// Q has to be painted before P: their canvas boxes overlap, Q reaches behind P's nearest
-// depth, and the plane and edge tests agree that P lies in front of Q.
-bool mustPaintBefore(const SortItem& q, const SortItem& p) {
-    return q.xmax > p.xmin && q.xmin < p.xmax && q.ymax > p.ymin && q.ymin < p.ymax &&
-           q.zmin < p.zmax && !q.face->IsAbove(*p.face) && !p.face->IsBelow(*q.face) &&
-           p.face->Obscures(*q.face);
-}
-
-} // namespace
-
 FaceList Solid3d::SortFaces() const {
-    FaceList result;
-    result.reserve(faces.size());
-    for (auto it = faces.rbegin(); it != faces.rend(); ++it) {
-        if ((*it)->IsCulled) {
-            result.push_back(*it);
-        }
-    }
-
-    // The extents do not change during the sort, so each face's is taken once.
-    std::vector<SortItem> work;
-    for (const auto& face : faces) {
-        if (!face->IsCulled) {
-            SortItem item{face, 0, 0, 0, 0, 0, 0};
-            face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
-            work.push_back(item);
-        }
-    }
-
-    size_t limit = work.size();
-    size_t moves = 0;
-    size_t head = 0;
-    while (head < work.size()) {
-        const SortItem& p = work[head];
-        size_t conflict = 0;
-        for (size_t q = head + 1; q < work.size(); ++q) {
-            if (mustPaintBefore(work[q], p)) {
-                conflict = q;
-                break;
-            }
-        }
-        if (conflict != 0 && moves < limit) {
-            // Move Q to the front of what is left, keeping the others in order.
-            std::rotate(work.begin() + static_cast<std::ptrdiff_t>(head),
-                        work.begin() + static_cast<std::ptrdiff_t>(conflict),
-                        work.begin() + static_cast<std::ptrdiff_t>(conflict) + 1);
-            ++moves;
-            continue;
-        }
-        // After limit moves without progress a cycle is broken by painting P anyway.
-        result.push_back(p.face);
-        ++head;
-        moves = 0;
-        limit = faces.size();
-    }
-    return result;
+    return FaceOrder::sort(faces);
 }
 
 FaceList Solid3d::paintOrder() const {

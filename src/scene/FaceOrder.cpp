@@ -1,0 +1,223 @@
+#include "scene/FaceOrder.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// A face whose box covers more cells than this is searched for by every face instead.
+constexpr int maxCellsPerFace = 32;
+
+template <class Box> bool boxesOverlap(const Box& q, const Box& p) {
+    return q.xmax > p.xmin && q.xmin < p.xmax && q.ymax > p.ymin && q.ymin < p.ymax &&
+           q.zmin < p.zmax;
+}
+
+// Q has to be painted before P: their canvas boxes overlap, Q reaches behind P's nearest
+// depth, and the plane and edge tests agree that P lies in front of Q.
+template <class Box> bool mustPaintBefore(const Box& q, const Box& p) {
+    return boxesOverlap(q, p) && !q.face->IsAbove(*p.face) && !p.face->IsBelow(*q.face) &&
+           p.face->Obscures(*q.face);
+}
+
+// Cells per axis: about one box per cell, at most twice the square root of the count.
+int cellsAlong(double extent, std::vector<double>& sizes, size_t count) {
+    const int most = static_cast<int>(2 * std::sqrt(static_cast<double>(count))) + 1;
+    if (!(extent > 0) || sizes.empty()) {
+        return 1;
+    }
+    auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
+    std::nth_element(sizes.begin(), middle, sizes.end());
+    const double cells = *middle > 0 ? extent / *middle : most;
+    return static_cast<int>(std::clamp(cells, 1.0, static_cast<double>(most)));
+}
+
+} // namespace
+
+FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
+    Faces result;
+    result.reserve(faces.size());
+    for (auto it = faces.rbegin(); it != faces.rend(); ++it) {
+        if ((*it)->IsCulled) {
+            result.push_back(*it);
+        }
+    }
+    FaceOrder order(faces);
+    size_t limit = order.items_.size();
+    size_t moves = 0;
+    while (order.head_ != none) {
+        const uint32_t p = order.head_;
+        const uint32_t q = order.firstConflict(p);
+        if (q != none && moves < limit) {
+            order.unlink(q);
+            order.pushFront(q);
+            ++moves;
+            continue;
+        }
+        // After limit moves without progress a cycle is broken by painting P anyway.
+        result.push_back(order.owners_[p]);
+        order.unlink(p);
+        order.items_[p].waiting = false;
+        --order.waitingCount_;
+        moves = 0;
+        limit = faces.size();
+    }
+    return result;
+}
+
+FaceOrder::FaceOrder(const Faces& faces) {
+    for (const auto& face : faces) {
+        if (face->IsCulled) {
+            continue;
+        }
+        const auto index = static_cast<uint32_t>(items_.size());
+        Item item{face.get(), 0, 0, 0, 0, 0, 0, index, index - 1, index + 1};
+        face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
+        items_.push_back(item);
+        owners_.push_back(face);
+    }
+    waitingCount_ = items_.size();
+    if (!items_.empty()) {
+        head_ = 0;
+        items_.front().prev = none;
+        items_.back().next = none;
+    }
+    buildGrid();
+}
+
+void FaceOrder::buildGrid() {
+    double xlo = 0, xhi = 0, ylo = 0, yhi = 0;
+    bool any = false;
+    std::vector<double> widths;
+    std::vector<double> heights;
+    for (const Item& item : items_) {
+        if (!(std::isfinite(item.xmin) && std::isfinite(item.xmax) && std::isfinite(item.ymin) &&
+              std::isfinite(item.ymax))) {
+            continue; // placed by clamping; it meets no finite box anyway
+        }
+        xlo = any ? std::min(xlo, static_cast<double>(item.xmin)) : item.xmin;
+        xhi = any ? std::max(xhi, static_cast<double>(item.xmax)) : item.xmax;
+        ylo = any ? std::min(ylo, static_cast<double>(item.ymin)) : item.ymin;
+        yhi = any ? std::max(yhi, static_cast<double>(item.ymax)) : item.ymax;
+        any = true;
+        widths.push_back(static_cast<double>(item.xmax) - item.xmin);
+        heights.push_back(static_cast<double>(item.ymax) - item.ymin);
+    }
+    nx_ = cellsAlong(xhi - xlo, widths, items_.size());
+    ny_ = cellsAlong(yhi - ylo, heights, items_.size());
+    x0_ = static_cast<float>(xlo);
+    y0_ = static_cast<float>(ylo);
+    cellW_ = nx_ > 1 ? static_cast<float>((xhi - xlo) / nx_) : 1.0f;
+    cellH_ = ny_ > 1 ? static_cast<float>((yhi - ylo) / ny_) : 1.0f;
+    cells_.assign(static_cast<size_t>(nx_) * static_cast<size_t>(ny_), {});
+    for (uint32_t i = 0; i < items_.size(); ++i) {
+        const Item& item = items_[i];
+        const int x0 = cellX(item.xmin), x1 = cellX(item.xmax);
+        const int y0 = cellY(item.ymin), y1 = cellY(item.ymax);
+        if ((x1 - x0 + 1) * (y1 - y0 + 1) > maxCellsPerFace) {
+            wide_.push_back(i);
+            continue;
+        }
+        for (int y = y0; y <= y1; ++y) {
+            for (int x = x0; x <= x1; ++x) {
+                cells_[static_cast<size_t>(y * nx_ + x)].push_back(i);
+            }
+        }
+    }
+}
+
+// Monotone in the coordinate, so boxes that overlap share a cell; NaN lands in cell 0.
+int FaceOrder::cellX(float x) const {
+    const float t = (x - x0_) / cellW_;
+    return !(t >= 0) ? 0 : t >= static_cast<float>(nx_ - 1) ? nx_ - 1 : static_cast<int>(t);
+}
+
+int FaceOrder::cellY(float y) const {
+    const float t = (y - y0_) / cellH_;
+    return !(t >= 0) ? 0 : t >= static_cast<float>(ny_ - 1) ? ny_ - 1 : static_cast<int>(t);
+}
+
+uint32_t FaceOrder::firstConflict(uint32_t p) {
+    const Item& item = items_[p];
+    const int x0 = cellX(item.xmin), x1 = cellX(item.xmax);
+    const int y0 = cellY(item.ymin), y1 = cellY(item.ymax);
+    if ((x1 - x0 + 1) * (y1 - y0 + 1) > maxCellsPerFace) {
+        return scanList(p);
+    }
+    // When the cells hold as many entries as there are waiting faces, the list is cheaper.
+    size_t entries = wide_.size();
+    for (int y = y0; y <= y1; ++y) {
+        for (int x = x0; x <= x1; ++x) {
+            entries += cells_[static_cast<size_t>(y * nx_ + x)].size();
+        }
+    }
+    return entries >= waitingCount_ ? scanList(p) : scanGrid(p, x0, x1, y0, y1);
+}
+
+uint32_t FaceOrder::scanList(uint32_t p) const {
+    for (uint32_t q = items_[p].next; q != none; q = items_[q].next) {
+        if (mustPaintBefore(items_[q], items_[p])) {
+            return q;
+        }
+    }
+    return none;
+}
+
+uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
+    ++search_;
+    candidates_.clear();
+    const Item& mine = items_[p];
+    // Collects the waiting faces whose boxes meet P's, dropping emitted ones on the way.
+    const auto collect = [&](std::vector<uint32_t>& list) {
+        size_t kept = 0;
+        for (const uint32_t q : list) {
+            Item& other = items_[q];
+            if (!other.waiting) {
+                continue;
+            }
+            list[kept++] = q;
+            if (q != p && other.seen != search_ && boxesOverlap(other, mine)) {
+                other.seen = search_;
+                candidates_.push_back(q);
+            }
+        }
+        list.resize(kept);
+    };
+    collect(wide_);
+    for (int y = y0; y <= y1; ++y) {
+        for (int x = x0; x <= x1; ++x) {
+            collect(cells_[static_cast<size_t>(y * nx_ + x)]);
+        }
+    }
+    std::sort(candidates_.begin(), candidates_.end(),
+              [this](uint32_t a, uint32_t b) { return items_[a].key < items_[b].key; });
+    for (const uint32_t q : candidates_) {
+        if (mustPaintBefore(items_[q], mine)) {
+            return q;
+        }
+    }
+    return none;
+}
+
+void FaceOrder::unlink(uint32_t i) {
+    Item& item = items_[i];
+    if (item.prev != none) {
+        items_[item.prev].next = item.next;
+    } else {
+        head_ = item.next;
+    }
+    if (item.next != none) {
+        items_[item.next].prev = item.prev;
+    }
+}
+
+void FaceOrder::pushFront(uint32_t i) {
+    Item& item = items_[i];
+    item.key = --frontKey_;
+    item.prev = none;
+    item.next = head_;
+    if (head_ != none) {
+        items_[head_].prev = i;
+    }
+    head_ = i;
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "scene/Face3d.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+// The painter's order of a solid's faces, back to front: culled faces lead (last first),
+// then the others in list order, except that a face Q that must be painted before the face
+// P about to be emitted is moved in front of P (at most as many moves in a row as there
+// are faces, which breaks cycles).
+//
+// The waiting faces' canvas boxes sit in a uniform grid, so the search for the first face
+// that must precede P tests only faces whose boxes meet P's, taken in their order in the
+// waiting list. That order is kept as a key per face: faces only leave the list or move to
+// its front, so a face moved to the front takes a key below all others.
+class FaceOrder {
+public:
+    using Faces = std::vector<std::shared_ptr<Face3d>>;
+    static Faces sort(const Faces& faces);
+
+private:
+    struct Item {
+        Face3d* face;
+        float xmin, xmax, ymin, ymax, zmin, zmax;
+        int64_t key;         // position in the waiting list, smallest first
+        uint32_t prev, next; // neighbours in the waiting list
+        uint32_t seen = 0;   // the last search that met this face
+        bool waiting = true;
+    };
+
+    explicit FaceOrder(const Faces& faces);
+    void buildGrid();
+    int cellX(float x) const;
+    int cellY(float y) const;
+    // The first waiting face after P that must be painted before it, or none.
+    uint32_t firstConflict(uint32_t p);
+    uint32_t scanList(uint32_t p) const;
+    uint32_t scanGrid(uint32_t p, int x0, int x1, int y0, int y1);
+    void unlink(uint32_t i);
+    void pushFront(uint32_t i);
+
+    static constexpr uint32_t none = UINT32_MAX;
+    std::vector<Item> items_;
+    std::vector<std::shared_ptr<Face3d>> owners_;
+    uint32_t head_ = none;
+    size_t waitingCount_ = 0;
+    int64_t frontKey_ = 0;
+    uint32_t search_ = 0;
+    // Grid over the boxes; faces spanning too many cells are kept apart in wide_.
+    float x0_ = 0, y0_ = 0, cellW_ = 1, cellH_ = 1;
+    int nx_ = 1, ny_ = 1;
+    std::vector<std::vector<uint32_t>> cells_;
+    std::vector<uint32_t> wide_;
+    std::vector<uint32_t> candidates_;
+};
