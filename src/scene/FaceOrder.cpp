@@ -8,7 +8,7 @@ namespace {
 // A face whose box covers more cells than this is searched for by every face instead.
 constexpr int maxCellsPerFace = 32;
 
-template <class Box> bool boxesOverlap(const Box& q, const Box& p) {
+template <class Q, class P> bool boxesOverlap(const Q& q, const P& p) {
     return q.xmax > p.xmin && q.xmin < p.xmax && q.ymax > p.ymin && q.ymin < p.ymax &&
            q.zmin < p.zmax;
 }
@@ -28,7 +28,7 @@ int cellsAlong(double extent, std::vector<double>& sizes, size_t count) {
     }
     auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
     std::nth_element(sizes.begin(), middle, sizes.end());
-    const double cells = *middle > 0 ? extent / *middle : most;
+    const double cells = *middle > 0 ? extent / (2 * *middle) : most;
     return static_cast<int>(std::clamp(cells, 1.0, static_cast<double>(most)));
 }
 
@@ -52,6 +52,7 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
             order.unlink(q);
             order.pushFront(q);
             ++moves;
+            moves = order.skipRepeats(q, moves, limit);
             continue;
         }
         // After limit moves without progress a cycle is broken by painting P anyway.
@@ -59,6 +60,7 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
         order.unlink(p);
         order.items_[p].waiting = false;
         --order.waitingCount_;
+        order.startRun();
         moves = 0;
         limit = faces.size();
     }
@@ -115,15 +117,27 @@ void FaceOrder::buildGrid() {
         const int x0 = cellX(item.xmin), x1 = cellX(item.xmax);
         const int y0 = cellY(item.ymin), y1 = cellY(item.ymax);
         if ((x1 - x0 + 1) * (y1 - y0 + 1) > maxCellsPerFace) {
-            wide_.push_back(i);
+            wide_.push_back(entryOf(i));
             continue;
         }
         for (int y = y0; y <= y1; ++y) {
             for (int x = x0; x <= x1; ++x) {
-                cells_[static_cast<size_t>(y * nx_ + x)].push_back(i);
+                cells_[static_cast<size_t>(y * nx_ + x)].push_back(entryOf(i));
             }
         }
     }
+    // By depth, so that a search stops at the first face too near to precede P (NaN last).
+    const auto depthKey = [](const Entry& e) { return std::isnan(e.zmin) ? INFINITY : e.zmin; };
+    const auto byDepth = [&](const Entry& a, const Entry& b) { return depthKey(a) < depthKey(b); };
+    std::sort(wide_.begin(), wide_.end(), byDepth);
+    for (auto& cell : cells_) {
+        std::sort(cell.begin(), cell.end(), byDepth);
+    }
+}
+
+FaceOrder::Entry FaceOrder::entryOf(uint32_t i) const {
+    const Item& item = items_[i];
+    return Entry{item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, i};
 }
 
 // Monotone in the coordinate, so boxes that overlap share a cell; NaN lands in cell 0.
@@ -167,21 +181,35 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
     ++search_;
     candidates_.clear();
     const Item& mine = items_[p];
-    // Collects the waiting faces whose boxes meet P's, dropping emitted ones on the way.
-    const auto collect = [&](std::vector<uint32_t>& list) {
+    // Collects the waiting faces whose boxes meet P's; emitted ones met on the way leave
+    // the cell. The box is tested first, from the cell's own copy, to keep to one array.
+    const auto collect = [&](std::vector<Entry>& list) {
         size_t kept = 0;
-        for (const uint32_t q : list) {
-            Item& other = items_[q];
-            if (!other.waiting) {
-                continue;
+        size_t k = 0;
+        for (; k < list.size(); ++k) {
+            const Entry entry = list[k];
+            if (!(entry.zmin < mine.zmax)) {
+                break; // the rest lie no deeper
             }
-            list[kept++] = q;
-            if (q != p && other.seen != search_ && boxesOverlap(other, mine)) {
-                other.seen = search_;
-                candidates_.push_back(q);
+            if (boxesOverlap(entry, mine)) {
+                Item& other = items_[entry.item];
+                if (!other.waiting) {
+                    continue;
+                }
+                if (entry.item != p && other.seen != search_) {
+                    other.seen = search_;
+                    candidates_.push_back(entry.item);
+                }
             }
+            if (kept != k) {
+                list[kept] = entry;
+            }
+            ++kept;
         }
-        list.resize(kept);
+        if (kept != k) {
+            list.erase(list.begin() + static_cast<std::ptrdiff_t>(kept),
+                       list.begin() + static_cast<std::ptrdiff_t>(k));
+        }
     };
     collect(wide_);
     for (int y = y0; y <= y1; ++y) {
@@ -197,6 +225,53 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
         }
     }
     return none;
+}
+
+// The faces moved since the last emission lead the list, most recently moved first, and the
+// rest keep their order; so once no new face joins them, their order is the whole state.
+// The moves are a function of that state: when it repeats (Brent's cycle search on
+// snapshots taken after 1, 2, 4, ... moves), whole periods up to the limit are skipped.
+size_t FaceOrder::skipRepeats(uint32_t moved, size_t moves, size_t limit) {
+    if (items_[moved].run != run_) {
+        items_[moved].run = run_;
+        ++runFaces_;
+    }
+    if (skipped_) {
+        return moves;
+    }
+    if (snapshot_.size() == runFaces_ && head_ == snapshot_.front() && leadMatchesSnapshot()) {
+        const size_t period = moves - snapshotMove_;
+        skipped_ = true;
+        return moves + (limit - moves) / period * period;
+    }
+    if (moves == nextSnapshot_) {
+        snapshot_.clear();
+        for (uint32_t i = head_; snapshot_.size() < runFaces_; i = items_[i].next) {
+            snapshot_.push_back(i);
+        }
+        snapshotMove_ = moves;
+        nextSnapshot_ *= 2;
+    }
+    return moves;
+}
+
+bool FaceOrder::leadMatchesSnapshot() const {
+    uint32_t i = head_;
+    for (const uint32_t expected : snapshot_) {
+        if (i != expected) {
+            return false;
+        }
+        i = items_[i].next;
+    }
+    return true;
+}
+
+void FaceOrder::startRun() {
+    ++run_;
+    runFaces_ = 0;
+    snapshot_.clear();
+    nextSnapshot_ = 1;
+    skipped_ = false;
 }
 
 void FaceOrder::unlink(uint32_t i) {

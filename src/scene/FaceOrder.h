@@ -14,7 +14,8 @@
 // The waiting faces' canvas boxes sit in a uniform grid, so the search for the first face
 // that must precede P tests only faces whose boxes meet P's, taken in their order in the
 // waiting list. That order is kept as a key per face: faces only leave the list or move to
-// its front, so a face moved to the front takes a key below all others.
+// its front, so a face moved to the front takes a key below all others. Cycles of faces that
+// keep moving each other to the front are run only until their order repeats.
 class FaceOrder {
 public:
     using Faces = std::vector<std::shared_ptr<Face3d>>;
@@ -27,10 +28,18 @@ private:
         int64_t key;         // position in the waiting list, smallest first
         uint32_t prev, next; // neighbours in the waiting list
         uint32_t seen = 0;   // the last search that met this face
+        uint32_t run = 0;    // the last run of moves that moved this face
         bool waiting = true;
     };
 
+    // A face's place in a cell, with the part of its box the search tests.
+    struct Entry {
+        float xmin, xmax, ymin, ymax, zmin;
+        uint32_t item;
+    };
+
     explicit FaceOrder(const Faces& faces);
+    Entry entryOf(uint32_t i) const;
     void buildGrid();
     int cellX(float x) const;
     int cellY(float y) const;
@@ -38,6 +47,10 @@ private:
     uint32_t firstConflict(uint32_t p);
     uint32_t scanList(uint32_t p) const;
     uint32_t scanGrid(uint32_t p, int x0, int x1, int y0, int y1);
+    // Moves after which the state repeats one already seen, period by period up to limit.
+    size_t skipRepeats(uint32_t moved, size_t moves, size_t limit);
+    bool leadMatchesSnapshot() const;
+    void startRun(); // after each emission
     void unlink(uint32_t i);
     void pushFront(uint32_t i);
 
@@ -51,7 +64,14 @@ private:
     // Grid over the boxes; faces spanning too many cells are kept apart in wide_.
     float x0_ = 0, y0_ = 0, cellW_ = 1, cellH_ = 1;
     int nx_ = 1, ny_ = 1;
-    std::vector<std::vector<uint32_t>> cells_;
-    std::vector<uint32_t> wide_;
+    std::vector<std::vector<Entry>> cells_;
+    std::vector<Entry> wide_;
     std::vector<uint32_t> candidates_;
+    // The current run of moves: faces it moved, and a snapshot of their order.
+    uint32_t run_ = 1;
+    size_t runFaces_ = 0;
+    std::vector<uint32_t> snapshot_;
+    size_t snapshotMove_ = 0;
+    size_t nextSnapshot_ = 1;
+    bool skipped_ = false;
 };
