@@ -182,7 +182,7 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
     candidates_.clear();
     const Item& mine = items_[p];
     // Collects the waiting faces whose boxes meet P's; emitted ones met on the way leave
-    // the cell. The box is tested first, from the cell's own copy, to keep to one array.
+    // the cell, so that later searches do not meet them again.
     const auto collect = [&](std::vector<Entry>& list) {
         size_t kept = 0;
         size_t k = 0;
@@ -191,15 +191,13 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
             if (!(entry.zmin < mine.zmax)) {
                 break; // the rest lie no deeper
             }
-            if (boxesOverlap(entry, mine)) {
-                Item& other = items_[entry.item];
-                if (!other.waiting) {
-                    continue;
-                }
-                if (entry.item != p && other.seen != search_) {
-                    other.seen = search_;
-                    candidates_.push_back(entry.item);
-                }
+            Item& other = items_[entry.item];
+            if (!other.waiting) {
+                continue;
+            }
+            if (entry.item != p && other.seen != search_ && boxesOverlap(entry, mine)) {
+                other.seen = search_;
+                candidates_.push_back(entry.item);
             }
             if (kept != k) {
                 list[kept] = entry;
