@@ -26,7 +26,7 @@ uint64_t lastDigit(float w) {
     }
     // Whole 64-bit arithmetic is several times faster than fmod on this hot path.
     if (w < 9.0e18f) {
-        return static_cast<uint64_t>(static_cast<int64_t>(w) % 10);
+        return static_cast<uint64_t>(static_cast<int64_t>(w)) % 10;
     }
     return static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
 }
@@ -62,10 +62,22 @@ void RadixObjNumEncap::getDigitWords(int32_t total, uint64_t* words) const {
     // the first decimal of the product before: the rounding can carry into the integer part
     // (1.2999999 x 10 gives 13), and reading both positions from the same product keeps
     // that carry, where the decimal would still say 2 and the next position 0.
+    // An infinite or NaN key stays so through every product: all its digits are 0.
+    if (!std::isfinite(workValue_)) {
+        return;
+    }
     float w = workValue_;
+    int32_t word = digitCount_ / digitsPerWord;
+    int32_t place = digitCount_ % digitsPerWord;
+    uint64_t digits = 0;
     for (int32_t position = digitCount_; position >= 0; --position) {
         w = w * 10.0f;
-        words[position / digitsPerWord] +=
-            lastDigit(w) * powersOfTen[static_cast<size_t>(position % digitsPerWord)];
+        digits += lastDigit(w) * powersOfTen[static_cast<size_t>(place)];
+        if (place == 0) {
+            words[word--] = digits;
+            digits = 0;
+            place = digitsPerWord;
+        }
+        --place;
     }
 }

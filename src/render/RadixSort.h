@@ -39,7 +39,8 @@ public:
     }
 
     // Both lists are sorted by magnitude; the negative one descending, so that together
-    // they run from the most negative key to the largest.
+    // they run from the most negative key to the largest. The objects are handed over, not
+    // copied: a sort takes the objects added since the last reset.
     std::vector<std::shared_ptr<T>> getSortedObjects() {
         std::vector<std::shared_ptr<T>> sorted;
         sorted.reserve(objects_.size());
@@ -47,14 +48,16 @@ public:
             List& list = lists_[which];
             sortList(list);
             const auto append = [&](uint32_t index) {
-                sorted.push_back(objects_[list.keys[index].object]);
+                sorted.push_back(std::move(objects_[list.keys[index].object]));
             };
             if (which == nonNegative) {
                 std::for_each(order_.begin(), order_.end(), append);
             } else {
                 std::for_each(order_.rbegin(), order_.rend(), append);
             }
+            list.keys.clear();
         }
+        objects_.clear();
         return sorted;
     }
 
@@ -84,14 +87,22 @@ private:
         std::iota(order_.begin(), order_.end(), 0u);
         spare_.resize(count);
         for (size_t word = 0; word < wordCount; ++word) {
+            // Bytes above the highest one any key uses are 0 for all and need no pass.
+            uint64_t used = 0;
+            for (size_t i = 0; i < count; ++i) {
+                used |= words_[i * wordCount + word];
+            }
+            size_t byteCount = 0;
+            for (; byteCount < 8 && (used >> (8 * byteCount)) != 0; ++byteCount) {
+            }
             std::array<std::array<uint32_t, 256>, 8> counts{};
             for (size_t i = 0; i < count; ++i) {
                 const uint64_t w = words_[i * wordCount + word];
-                for (size_t b = 0; b < 8; ++b) {
+                for (size_t b = 0; b < byteCount; ++b) {
                     ++counts[b][(w >> (8 * b)) & 0xFF];
                 }
             }
-            for (size_t b = 0; b < 8; ++b) {
+            for (size_t b = 0; b < byteCount; ++b) {
                 auto& bucketStart = counts[b];
                 if (std::find(bucketStart.begin(), bucketStart.end(), count) != bucketStart.end()) {
                     continue;
