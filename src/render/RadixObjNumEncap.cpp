@@ -47,8 +47,19 @@ int32_t RadixObjNumEncap::initialize(float value, int16_t precision) {
 }
 
 void RadixObjNumEncap::pushPrecision(int32_t total) {
+    // The factors of the usual shifts are worked out once: a depth sort pushes most keys.
+    static const std::array<float, 64> factors = [] {
+        std::array<float, 64> table{};
+        for (size_t shift = 1; shift < table.size(); ++shift) {
+            table[shift] = RootMod::SngRoot(0.1f, static_cast<float>(shift));
+        }
+        return table;
+    }();
     if (digitCount_ < total) {
-        workValue_ = workValue_ * RootMod::SngRoot(0.1f, static_cast<float>(total - digitCount_));
+        const int32_t shift = total - digitCount_;
+        workValue_ = workValue_ * (shift < static_cast<int32_t>(factors.size())
+                                       ? factors[static_cast<size_t>(shift)]
+                                       : RootMod::SngRoot(0.1f, static_cast<float>(shift)));
     }
 }
 
