@@ -1,3 +1,4 @@
+#include "../tests/render/ReferenceRadixSort.h"
 #include "render/RadixSort.h"
 
 #include <benchmark/benchmark.h>
@@ -5,9 +6,12 @@
 #include <random>
 #include <vector>
 
+namespace {
+
 // Keys per second through the depth sort, on depths such as a redraw produces: eye-space
-// z in [-20, 20] with four decimals. One sorter is reused, as the main window does.
-static void BM_RadixSort(benchmark::State& state) {
+// z in [-20, 20] with four decimals.
+template <class Sorter, class MakeSorter>
+void sortDepths(benchmark::State& state, MakeSorter makeSorter) {
     const auto count = static_cast<size_t>(state.range(0));
     std::mt19937 random(12345);
     std::uniform_int_distribution<int> tenThousandths(-200000, 200000);
@@ -17,9 +21,8 @@ static void BM_RadixSort(benchmark::State& state) {
         objects[i] = std::make_shared<int>(static_cast<int>(i));
         depths[i] = static_cast<float>(tenThousandths(random)) / 10000.0f;
     }
-    RadixSort<int> sorter;
     for (auto _ : state) {
-        sorter.reset(8);
+        Sorter& sorter = makeSorter();
         for (size_t i = 0; i < count; ++i) {
             sorter.addObject(objects[i], depths[i]);
         }
@@ -28,4 +31,24 @@ static void BM_RadixSort(benchmark::State& state) {
     }
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(count));
 }
+
+} // namespace
+
+// One sorter is reused, as the main window does.
+static void BM_RadixSort(benchmark::State& state) {
+    RadixSort<int> sorter;
+    sortDepths<RadixSort<int>>(state, [&]() -> RadixSort<int>& {
+        sorter.reset(8);
+        return sorter;
+    });
+}
+// The queue-based sort the fast one must agree with.
+static void BM_RadixSortReference(benchmark::State& state) {
+    std::unique_ptr<ReferenceRadixSort<int>> sorter;
+    sortDepths<ReferenceRadixSort<int>>(state, [&]() -> ReferenceRadixSort<int>& {
+        sorter = std::make_unique<ReferenceRadixSort<int>>(8);
+        return *sorter;
+    });
+}
 BENCHMARK(BM_RadixSort)->Arg(1000)->Arg(10000)->Arg(100000);
+BENCHMARK(BM_RadixSortReference)->Arg(1000)->Arg(10000)->Arg(100000);

@@ -7,17 +7,15 @@
 
 namespace {
 
-// The main window's full redraw (all four viewports, hidden ones too) for a 1600 x 900
-// client area, painted into Qt canvases: what every mouse movement over a viewport costs.
-void redrawAll(benchmark::State& state, bool prisms) {
+// The main window's full redraw for a 1600 x 900 client area, painted into Qt canvases:
+// what every mouse movement over a viewport costs.
+void redrawAll(benchmark::State& state, const SceneDocument& document) {
     std::array<QtCanvas, 4> canvases{QtCanvas(1, 1), QtCanvas(1, 1), QtCanvas(1, 1),
                                      QtCanvas(1, 1)};
     QtModalHost dialogs;
     frmTolvane form(dialogs);
     form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
-    if (prisms) {
-        form.getDocument().solids = BenchScenes::twentyPrisms().solids;
-    }
+    form.getDocument().solids = document.solids;
     form.setViewportLayout(static_cast<int32_t>(state.range(0)));
     form.Form_Resize(1600, 900);
     for (auto _ : state) {
@@ -29,10 +27,14 @@ void redrawAll(benchmark::State& state, bool prisms) {
 } // namespace
 
 static void BM_RedrawAll_StartUp(benchmark::State& state) {
-    redrawAll(state, false);
+    redrawAll(state, SceneDocument::startUp());
 }
 static void BM_RedrawAll_20Prisms(benchmark::State& state) {
-    redrawAll(state, true);
+    redrawAll(state, BenchScenes::twentyPrisms());
+}
+static void BM_RedrawAllTwisted(benchmark::State& state) {
+    redrawAll(state, BenchScenes::twistedExtrusion());
 }
 BENCHMARK(BM_RedrawAll_StartUp)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RedrawAll_20Prisms)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RedrawAllTwisted)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);

@@ -65,6 +65,10 @@ void ViewportSet::redrawAll(const ViewportScene& scene,
         if (picOrtho[i] == nullptr) {
             continue;
         }
+        if (!picOrtho[i]->isVisible()) {
+            renderer.project(*picOrtho[i], records[i], scene);
+            continue;
+        }
         renderer.redrawViewport(*picOrtho[i], records[i], scene);
         drawOverlay(*picOrtho[i], records[i]);
         picOrtho[i]->refresh();

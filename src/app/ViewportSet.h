@@ -47,8 +47,12 @@ public:
     void layoutViewports();
     const ControlPlacement& getTreePlacement() const { return treePlacement; }
 
-    // Paints every viewport, hidden ones too; drawOverlay adds the mouse mode's overlay to a
-    // canvas before it is shown.
+    // Redraws the viewports in order; drawOverlay adds the mouse mode's overlay to a canvas
+    // before it is shown. A hidden canvas is only projected, not painted: its image is never
+    // seen nor exported (with one canvas shown, the export takes picOrtho(3)), and showing
+    // it lays the canvases out again, which redraws. Projecting it keeps the points of
+    // faces culled in later viewports where a full redraw leaves them. picOrtho(3) is
+    // never hidden and comes last, so depths and light ranges stay those it sets.
     void redrawAll(const ViewportScene& scene,
                    const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay);
 

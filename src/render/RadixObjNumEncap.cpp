@@ -2,11 +2,38 @@
 
 #include "geometry/RootMod.h"
 
+#include <array>
 #include <cmath>
 
-int32_t RadixObjNumEncap::initialize(std::shared_ptr<void> obj, float value, int16_t precision) {
-    obj_ = std::move(obj);
-    value_ = value;
+namespace {
+
+constexpr std::array<uint64_t, RadixObjNumEncap::digitsPerWord> powersOfTen = [] {
+    std::array<uint64_t, RadixObjNumEncap::digitsPerWord> powers{};
+    uint64_t power = 1;
+    for (auto& p : powers) {
+        p = power;
+        power *= 10;
+    }
+    return powers;
+}();
+
+// The last integer digit of a product.
+uint64_t lastDigit(float w) {
+    // A key too large for a single overflows to infinity (and NaN stays NaN); such a digit
+    // counts as 0.
+    if (!std::isfinite(w)) {
+        return 0;
+    }
+    // Whole 64-bit arithmetic is several times faster than fmod on this hot path.
+    if (w < 9.0e18f) {
+        return static_cast<uint64_t>(static_cast<int64_t>(w)) % 10;
+    }
+    return static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
+}
+
+} // namespace
+
+int32_t RadixObjNumEncap::initialize(float value, int16_t precision) {
     workValue_ = std::fabs(value);
     int32_t integerDigits = 0;
     // The integer part of a non-negative value is non-zero exactly when it is at least 1;
@@ -19,32 +46,49 @@ int32_t RadixObjNumEncap::initialize(std::shared_ptr<void> obj, float value, int
     return digitCount_;
 }
 
-int32_t RadixObjNumEncap::getRadixValue(int32_t position) const {
-    if (position > digitCount_ || position < 0) {
-        return 0;
+void RadixObjNumEncap::pushPrecision(int32_t total) {
+    // The factors of the usual shifts are worked out once: a depth sort pushes most keys.
+    static const std::array<float, 64> factors = [] {
+        std::array<float, 64> table{};
+        for (size_t shift = 1; shift < table.size(); ++shift) {
+            table[shift] = RootMod::SngRoot(0.1f, static_cast<float>(shift));
+        }
+        return table;
+    }();
+    if (digitCount_ < total) {
+        const int32_t shift = total - digitCount_;
+        workValue_ = workValue_ * (shift < static_cast<int32_t>(factors.size())
+                                       ? factors[static_cast<size_t>(shift)]
+                                       : RootMod::SngRoot(0.1f, static_cast<float>(shift)));
     }
-    // The digit is read as the last integer digit of the next product rather than as the
-    // first decimal of this one: rounding each product to a single can carry into the
-    // integer part (1.2999999 x 10 gives 13), and reading both positions from the same
-    // product keeps that carry, where the decimal would still say 2 and the next position 0.
-    float w = workValue_;
-    for (int32_t i = position; i <= digitCount_; ++i) {
-        w = w * 10.0f;
-    }
-    // A key too large for a single overflows to infinity here (and NaN stays NaN); such a
-    // digit counts as 0.
-    if (!std::isfinite(w)) {
-        return 0;
-    }
-    // Whole 64-bit arithmetic is several times faster than fmod on this hot path.
-    if (w < 9.0e18f) {
-        return static_cast<int32_t>(static_cast<int64_t>(w) % 10);
-    }
-    return static_cast<int32_t>(std::fmod(std::trunc(w), 10.0f));
 }
 
-void RadixObjNumEncap::pushPrecision(int32_t total) {
-    if (digitCount_ < total) {
-        workValue_ = workValue_ * RootMod::SngRoot(0.1f, static_cast<float>(total - digitCount_));
+void RadixObjNumEncap::getDigitWords(int32_t total, uint64_t* words) const {
+    const int32_t wordCount = total / digitsPerWord + 1;
+    for (int32_t i = 0; i < wordCount; ++i) {
+        words[i] = 0;
+    }
+    // The digit of a position is the last integer digit of the work value times 10 once
+    // per position from the top down to it, each product rounded to a single, rather than
+    // the first decimal of the product before: the rounding can carry into the integer part
+    // (1.2999999 x 10 gives 13), and reading both positions from the same product keeps
+    // that carry, where the decimal would still say 2 and the next position 0.
+    // An infinite or NaN key stays so through every product: all its digits are 0.
+    if (!std::isfinite(workValue_)) {
+        return;
+    }
+    float w = workValue_;
+    int32_t word = digitCount_ / digitsPerWord;
+    int32_t place = digitCount_ % digitsPerWord;
+    uint64_t digits = 0;
+    for (int32_t position = digitCount_; position >= 0; --position) {
+        w = w * 10.0f;
+        digits += lastDigit(w) * powersOfTen[static_cast<size_t>(place)];
+        if (place == 0) {
+            words[word--] = digits;
+            digits = 0;
+            place = digitsPerWord;
+        }
+        --place;
     }
 }

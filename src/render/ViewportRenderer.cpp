@@ -8,8 +8,8 @@
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
 
-void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
-                                      const ViewportScene& scene) {
+void ViewportRenderer::transform(const Canvas& canvas, const ViewSpecs& record,
+                                 const ViewportScene& scene) {
     float ex;
     float ey;
     float ez;
@@ -42,6 +42,26 @@ void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
         scene.grid->ApplyFull(full);
         scene.grid->clipEye(record.EyeR);
     }
+}
+
+void ViewportRenderer::project(const Canvas& canvas, const ViewSpecs& record,
+                               const ViewportScene& scene) {
+    transform(canvas, record, scene);
+    // Painting the grid forgets which of its points are transformed; without that, the next
+    // viewport would leave them where this one put them.
+    if (scene.showGrid && scene.grid) {
+        scene.grid->resetTransformedPoints();
+    }
+}
+
+void ViewportRenderer::redrawViewport(Canvas& canvas, const ViewSpecs& record,
+                                      const ViewportScene& scene) {
+    transform(canvas, record, scene);
+    float ex;
+    float ey;
+    float ez;
+    KorvanOpsConsts::getEyePosition(record, ex, ey, ez);
+    const bool showGrid = scene.showGrid && scene.grid;
     const auto sorted = sortSolidsByDepth(scene.solids);
     LightRanges::updateLightRanges(scene.light_sources, scene.solids);
 

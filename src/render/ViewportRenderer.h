@@ -26,10 +26,16 @@ public:
     static constexpr int workplaneTintRed = 0, workplaneTintGreen = 150, workplaneTintBlue = 0;
 
     void redrawViewport(Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
+    // What a redraw leaves in the document, without painting: culls, transforms and clips
+    // everything for the canvas. A point of faces culled here keeps the projection of the
+    // last viewport that reached it, so a viewport nobody sees is still projected.
+    void project(const Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
     // The objects in painting order: ascending largest depth, farthest first.
     std::vector<std::shared_ptr<Transformed3d>>
     sortSolidsByDepth(const std::vector<std::shared_ptr<Transformed3d>>& solids);
 
 private:
+    void transform(const Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
+
     std::unique_ptr<RadixSort<Transformed3d>> depthSorter_;
 };

@@ -1,5 +1,7 @@
 #include "render/RadixSort.h"
 
+#include "ReferenceRadixSort.h"
+
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -81,5 +83,44 @@ TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
         std::vector<float> expected = keys;
         std::stable_sort(expected.begin(), expected.end());
         ASSERT_EQ(sortKeys(keys), expected) << "round " << round;
+    }
+}
+
+TEST(RadixSort, OrdersExactlyAsTheQueueSortDid) {
+    // Keys whose digits carry when scaled, ties, both zeros, neighbouring singles, and magnitudes
+    // from far below the precision to far beyond 19 digits, where a key spans several words.
+    std::mt19937 random(977);
+    std::uniform_int_distribution<int> pick(0, 5);
+    float previous = 1.0f;
+    std::uniform_int_distribution<int> exponent(-12, 30);
+    std::uniform_real_distribution<float> mantissa(-10.0f, 10.0f);
+    std::uniform_int_distribution<int> tenths(-50, 50);
+    const std::vector<float> fixed{0.0f, -0.0f, 1e-9f, -1e-9f, 1.3f, 12.999999f, 3e38f, -3e38f};
+    RadixSort<int> sorter;
+    for (int round = 0; round < 40; ++round) {
+        ReferenceRadixSort<int> reference(round % 3 == 0 ? 4 : 8);
+        sorter.reset(round % 3 == 0 ? 4 : 8);
+        for (int i = 0; i < 300; ++i) {
+            float key = 0.0f;
+            switch (pick(random)) {
+            case 0:
+                key = fixed[static_cast<size_t>(i) % fixed.size()];
+                break;
+            case 1:
+                key = static_cast<float>(tenths(random)) / 10.0f;
+                break;
+            case 2:
+                // Neighbours differ only in the last digits, where rounding decides.
+                key = std::nextafter(previous, pick(random) < 3 ? 1e38f : -1e38f);
+                break;
+            default:
+                key = mantissa(random) * std::pow(10.0f, static_cast<float>(exponent(random)));
+            }
+            previous = key;
+            const auto object = std::make_shared<int>(i);
+            reference.addObject(object, key);
+            sorter.addObject(object, key);
+        }
+        ASSERT_EQ(sorter.getSortedObjects(), reference.getSortedObjects()) << "round " << round;
     }
 }
