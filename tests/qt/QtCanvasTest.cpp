@@ -199,3 +199,37 @@ TEST(QtCanvas, SaveBitmapWritesAWholeBmpFileOrNone) {
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
               QStringList{"view.bmp"});
 }
+
+TEST(QtCanvas, OnePainterFollowsEveryChangeOfStyleAndColourAndEndsWhenTheImageIsRead) {
+    QtCanvas canvas(40, 40);
+    canvas.setForeColor(Red);
+    canvas.moveTo(0, 1);
+    canvas.lineTo(10, 1);
+    canvas.setForeColor(Green);
+    canvas.lineTo(20, 1);
+    canvas.setFillStyle(FillTransparent);
+    canvas.setFillColor(Red);
+    canvas.polygon(square(2, 10, 12, 20));
+    canvas.setFillStyle(FillSolid);
+    canvas.setFillColor(Blue);
+    canvas.polygon(square(22, 10, 32, 20));
+    // A copy taken between two drawing calls keeps what was drawn until then.
+    const QImage before = canvas.image();
+    canvas.setDrawStyle(DrawInvisible);
+    canvas.setForeColor(0xFFFFFF);
+    canvas.textOut(0, 24, "X");
+    EXPECT_EQ(at(canvas, 5, 1), RedPixel);
+    EXPECT_EQ(at(canvas, 15, 1), GreenPixel);
+    EXPECT_EQ(at(canvas, 6, 15), Black);
+    EXPECT_EQ(at(canvas, 26, 15), BluePixel);
+    int written = 0;
+    int inCopy = 0;
+    for (int y = 24; y < 40; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            written += at(canvas, x, y) == 0xFFFFFFu;
+            inCopy += (before.pixel(x, y) & 0xFFFFFF) == 0xFFFFFFu;
+        }
+    }
+    EXPECT_GT(written, 3);
+    EXPECT_EQ(inCopy, 0);
+}
