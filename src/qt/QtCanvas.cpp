@@ -122,13 +122,12 @@ void QtCanvas::polygon(const std::vector<CanvasPoint>& points) {
         filler_.fill(image_, points, toQColor(fillColor()).rgb());
         return;
     }
-    std::vector<QPoint> corners;
-    corners.reserve(points.size());
+    corners_.clear();
     for (const CanvasPoint& p : points) {
-        corners.emplace_back(p.x, p.y);
+        corners_.emplace_back(p.x, p.y);
     }
     painter(drawStyle())
-        .drawPolygon(corners.data(), static_cast<int>(corners.size()), Qt::OddEvenFill);
+        .drawPolygon(corners_.data(), static_cast<int>(corners_.size()), Qt::OddEvenFill);
 }
 
 void QtCanvas::moveTo(int x, int y) {

@@ -65,6 +65,7 @@ private:
     int32_t brushColor_ = 0;
     int brushStyle_ = -1; // no brush set yet
     ScanlineFiller filler_;
+    std::vector<QPoint> corners_; // kept, so that a polygon allocates nothing
     QFont font_;
     int fontAscent_;
     int penX_ = 0;

@@ -1,7 +1,19 @@
 #include "qt/ScanlineFiller.h"
 
 #include <algorithm>
-#include <cmath>
+
+namespace {
+
+// Corners are clamped to this range so that the exact arithmetic below fits 64 bits; that
+// bends only edges with a corner hundreds of millions of pixels away.
+constexpr int64_t coordinateLimit = int64_t{1} << 28;
+
+int64_t floorDiv(int64_t a, int64_t b) { // b > 0
+    const int64_t q = a / b;
+    return q - (a % b < 0 ? 1 : 0);
+}
+
+} // namespace
 
 void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points, QRgb color) {
     const int width = image.width();
@@ -10,42 +22,58 @@ void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points,
     int top = height;
     int bottom = 0;
     for (size_t i = 0; i < points.size(); ++i) {
-        CanvasPoint a = points[i];
-        CanvasPoint b = points[(i + 1) % points.size()];
+        const CanvasPoint& a = points[i];
+        const CanvasPoint& b = points[i + 1 < points.size() ? i + 1 : 0];
         if (a.y == b.y) {
-            continue; // a level edge crosses no row centre
+            continue; // a level edge crosses no centre line
         }
-        if (a.y > b.y) {
-            std::swap(a, b);
+        const CanvasPoint& upper = a.y < b.y ? a : b;
+        const CanvasPoint& lower = a.y < b.y ? b : a;
+        // Row y's centre line is y + 0.5, so the edge crosses rows upper.y to lower.y - 1.
+        const int first = std::max(upper.y, 0);
+        const int last = std::min(lower.y, height);
+        if (first >= last) {
+            continue;
         }
-        // Row y is sampled at y + 0.5, so the edge crosses rows a.y to b.y - 1.
-        const Edge edge{std::max(a.y, 0), std::min(b.y, height), double(a.x),
-                        double(a.y),      double(b.x) - a.x,     double(b.y) - a.y};
-        if (edge.top < edge.bottom) {
-            edges_.push_back(edge);
-            top = std::min(top, edge.top);
-            bottom = std::max(bottom, edge.bottom);
-        }
+        const int64_t x0 = std::clamp<int64_t>(upper.x, -coordinateLimit, coordinateLimit);
+        const int64_t y0 = std::clamp<int64_t>(upper.y, -coordinateLimit, coordinateLimit);
+        const int64_t dx = std::clamp<int64_t>(lower.x, -coordinateLimit, coordinateLimit) - x0;
+        const int64_t dy = std::clamp<int64_t>(lower.y, -coordinateLimit, coordinateLimit) - y0;
+        // On row y the edge crosses at x0 + (2 (y - y0) + 1) dx / (2 dy); the first pixel whose
+        // centre lies right of it is x0 + floor(((2 (y - y0) + 1) dx - dy) / (2 dy)) + 1.
+        const int64_t divisor = 2 * dy;
+        const int64_t numerator = (2 * (first - y0) + 1) * dx - dy;
+        const int64_t whole = floorDiv(numerator, divisor);
+        const int64_t stepWhole = floorDiv(2 * dx, divisor);
+        edges_.push_back({first, last, x0 + whole + 1, numerator - whole * divisor, stepWhole,
+                          2 * dx - stepWhole * divisor, divisor});
+        top = std::min(top, first);
+        bottom = std::max(bottom, last);
     }
     uchar* bits = image.bits();
     const qsizetype stride = image.bytesPerLine();
     for (int y = top; y < bottom; ++y) {
-        crossings_.clear();
-        for (const Edge& edge : edges_) {
-            if (y >= edge.top && y < edge.bottom) {
-                // One rounding only (the products are whole numbers held exactly), so
-                // that a crossing exactly on a pixel centre stays exact.
-                crossings_.push_back(edge.x + (2 * (y - edge.y) + 1) * edge.dx / (2 * edge.dy));
+        starts_.clear();
+        for (Edge& edge : edges_) {
+            if (y < edge.top || y >= edge.bottom) {
+                continue;
+            }
+            starts_.push_back(edge.start);
+            edge.start += edge.startStep;
+            edge.remainder += edge.remainderStep;
+            if (edge.remainder >= edge.divisor) {
+                ++edge.start;
+                edge.remainder -= edge.divisor;
             }
         }
-        std::sort(crossings_.begin(), crossings_.end());
+        std::sort(starts_.begin(), starts_.end());
         auto* row = reinterpret_cast<QRgb*>(bits + y * stride);
-        for (size_t k = 0; k + 1 < crossings_.size(); k += 2) {
-            // Pixels whose centre x + 0.5 lies in [left crossing, right crossing).
-            const double left = std::max(std::floor(crossings_[k] - 0.5) + 1, 0.0);
-            const double right = std::min(std::floor(crossings_[k + 1] - 0.5) + 1, double(width));
+        // Even-odd: the pixels from one start up to the next are inside, then outside.
+        for (size_t k = 0; k + 1 < starts_.size(); k += 2) {
+            const int64_t left = std::max<int64_t>(starts_[k], 0);
+            const int64_t right = std::min<int64_t>(starts_[k + 1], width);
             if (left < right) {
-                std::fill(row + static_cast<int>(left), row + static_cast<int>(right), color);
+                std::fill(row + left, row + right, color);
             }
         }
     }
