@@ -119,7 +119,8 @@ void QtCanvas::polygon(const std::vector<CanvasPoint>& points) {
         return;
     }
     if (fillStyle() == FillSolid && drawStyle() == DrawInvisible) {
-        filler_.fill(image_, points, toQColor(fillColor()).rgb());
+        const PackedColor c = PackedColor::split(fillColor());
+        filler_.fill(image_, points, qRgb(c.red, c.green, c.blue));
         return;
     }
     corners_.clear();

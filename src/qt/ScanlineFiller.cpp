@@ -4,8 +4,8 @@
 
 namespace {
 
-// Corners are clamped to this range so that the exact arithmetic below fits 64 bits; that
-// bends only edges with a corner hundreds of millions of pixels away.
+// Corners are clamped to this range so that an edge's stepping fits 32 bits (and setting it up
+// 64); that bends only edges with a corner hundreds of millions of pixels away.
 constexpr int64_t coordinateLimit = int64_t{1} << 28;
 
 int64_t floorDiv(int64_t a, int64_t b) { // b > 0
@@ -45,33 +45,41 @@ void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points,
         const int64_t numerator = (2 * (first - y0) + 1) * dx - dy;
         const int64_t whole = floorDiv(numerator, divisor);
         const int64_t stepWhole = floorDiv(2 * dx, divisor);
-        edges_.push_back({first, last, x0 + whole + 1, numerator - whole * divisor, stepWhole,
-                          2 * dx - stepWhole * divisor, divisor});
+        edges_.push_back(
+            {first, last, static_cast<int32_t>(x0 + whole + 1),
+             static_cast<int32_t>(numerator - whole * divisor), static_cast<int32_t>(stepWhole),
+             static_cast<int32_t>(2 * dx - stepWhole * divisor), static_cast<int32_t>(divisor)});
         top = std::min(top, first);
         bottom = std::max(bottom, last);
     }
     uchar* bits = image.bits();
     const qsizetype stride = image.bytesPerLine();
+    starts_.resize(edges_.size());
+    int32_t* starts = starts_.data();
     for (int y = top; y < bottom; ++y) {
-        starts_.clear();
+        size_t count = 0;
         for (Edge& edge : edges_) {
             if (y < edge.top || y >= edge.bottom) {
                 continue;
             }
-            starts_.push_back(edge.start);
+            // Insertion sort: a row of a face crosses few edges.
+            size_t k = count++;
+            for (; k > 0 && starts[k - 1] > edge.start; --k) {
+                starts[k] = starts[k - 1];
+            }
+            starts[k] = edge.start;
             edge.start += edge.startStep;
             edge.remainder += edge.remainderStep;
-            if (edge.remainder >= edge.divisor) {
-                ++edge.start;
-                edge.remainder -= edge.divisor;
-            }
+            // Without a branch: the carry comes as often as not.
+            const int32_t carry = edge.remainder >= edge.divisor ? 1 : 0;
+            edge.start += carry;
+            edge.remainder -= carry * edge.divisor;
         }
-        std::sort(starts_.begin(), starts_.end());
         auto* row = reinterpret_cast<QRgb*>(bits + y * stride);
         // Even-odd: the pixels from one start up to the next are inside, then outside.
-        for (size_t k = 0; k + 1 < starts_.size(); k += 2) {
-            const int64_t left = std::max<int64_t>(starts_[k], 0);
-            const int64_t right = std::min<int64_t>(starts_[k + 1], width);
+        for (size_t k = 0; k + 1 < count; k += 2) {
+            const int32_t left = std::max(starts[k], 0);
+            const int32_t right = std::min(starts[k + 1], width);
             if (left < right) {
                 std::fill(row + left, row + right, color);
             }

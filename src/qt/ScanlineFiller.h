@@ -21,14 +21,14 @@ private:
     struct Edge {
         int top;           // first row whose centre line the edge crosses, on the image
         int bottom;        // one past the last
-        int64_t start;     // first pixel whose centre lies right of the crossing
-        int64_t remainder; // 0 <= remainder < divisor
-        int64_t startStep; // per row
-        int64_t remainderStep;
-        int64_t divisor;
+        int32_t start;     // first pixel whose centre lies right of the crossing
+        int32_t remainder; // 0 <= remainder < divisor
+        int32_t startStep; // per row
+        int32_t remainderStep;
+        int32_t divisor;
     };
 
     // Kept between calls, so that filling allocates nothing once the buffers have grown.
     std::vector<Edge> edges_;
-    std::vector<int64_t> starts_;
+    std::vector<int32_t> starts_;
 };
