@@ -82,12 +82,16 @@ void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points,
         for (size_t k = 0; k + 1 < count; k += 2) {
             const int32_t left = std::max(starts[k], 0);
             const int32_t right = std::min(starts[k + 1], width);
+            if (left >= right) {
+                continue;
+            }
             // Four pixels to a store where the span allows.
             QRgb* pixel = row + left;
-            for (; pixel + 4 <= row + right; pixel += 4) {
+            QRgb* const end = row + right;
+            for (; end - pixel >= 4; pixel += 4) {
                 std::memcpy(pixel, quad, sizeof quad);
             }
-            for (; pixel < row + right; ++pixel) {
+            for (; pixel < end; ++pixel) {
                 *pixel = color;
             }
         }
