@@ -55,6 +55,7 @@ void CanvasWidget::Surface::setMousePointer(MousePointer pointer) {
 }
 
 void CanvasWidget::Surface::refresh() {
+    QtCanvas::refresh();
     widget_.update();
 }
 

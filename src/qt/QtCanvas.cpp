@@ -77,6 +77,7 @@ QtCanvas::QtCanvas(int width, int height) : image_(blankImage(width, height, bac
 }
 
 void QtCanvas::resize(int width, int height) {
+    endPainting();
     QImage resized = blankImage(width, height, backColor());
     QPainter painter(&resized);
     painter.drawImage(0, 0, image_);
@@ -84,26 +85,50 @@ void QtCanvas::resize(int width, int height) {
     image_ = resized;
 }
 
-// The pen ends its lines without a cap so that, as on a classic device context, the last
-// pixel of a line is left for the next line to start from.
-void QtCanvas::setPen(QPainter& painter) const {
-    painter.setPen(QPen(toQColor(foreColor()), 1, penStyle(drawStyle()), Qt::FlatCap));
+QPainter& QtCanvas::painter(int drawStyle) {
+    if (!painter_.isActive()) {
+        painter_.begin(&image_);
+        painter_.setFont(font_);
+        penStyle_ = -1;
+        brushStyle_ = -1;
+    }
+    if (drawStyle != penStyle_ || foreColor() != penColor_) {
+        penStyle_ = drawStyle;
+        penColor_ = foreColor();
+        // Without a cap, as on a classic device context, the last pixel of a line is left
+        // for the next line to start from.
+        painter_.setPen(QPen(toQColor(penColor_), 1, penStyle(penStyle_), Qt::FlatCap));
+    }
+    if (fillStyle() != brushStyle_ || fillColor() != brushColor_) {
+        brushStyle_ = fillStyle();
+        brushColor_ = fillColor();
+        // Hatches paint only their lines: the transparent background mode leaves the gaps.
+        painter_.setBrush(QBrush(toQColor(brushColor_), brushStyle(brushStyle_)));
+    }
+    return painter_;
+}
+
+void QtCanvas::endPainting() const {
+    if (painter_.isActive()) {
+        painter_.end();
+    }
 }
 
 void QtCanvas::polygon(const std::vector<CanvasPoint>& points) {
     if (points.empty()) {
         return;
     }
-    std::vector<QPoint> corners;
-    corners.reserve(points.size());
-    for (const CanvasPoint& p : points) {
-        corners.emplace_back(p.x, p.y);
+    if (fillStyle() == FillSolid && drawStyle() == DrawInvisible) {
+        const PackedColor c = PackedColor::split(fillColor());
+        filler_.fill(image_, points, qRgb(c.red, c.green, c.blue));
+        return;
     }
-    QPainter painter(&image_);
-    setPen(painter);
-    // Hatches paint only their lines: the transparent background mode leaves the gaps alone.
-    painter.setBrush(QBrush(toQColor(fillColor()), brushStyle(fillStyle())));
-    painter.drawPolygon(corners.data(), static_cast<int>(corners.size()), Qt::OddEvenFill);
+    corners_.clear();
+    for (const CanvasPoint& p : points) {
+        corners_.emplace_back(p.x, p.y);
+    }
+    painter(drawStyle())
+        .drawPolygon(corners_.data(), static_cast<int>(corners_.size()), Qt::OddEvenFill);
 }
 
 void QtCanvas::moveTo(int x, int y) {
@@ -112,18 +137,14 @@ void QtCanvas::moveTo(int x, int y) {
 }
 
 void QtCanvas::lineTo(int x, int y) {
-    QPainter painter(&image_);
-    setPen(painter);
-    painter.drawLine(penX_, penY_, x, y);
+    painter(drawStyle()).drawLine(penX_, penY_, x, y);
     penX_ = x;
     penY_ = y;
 }
 
 void QtCanvas::textOut(int x, int y, const std::string& text) {
-    QPainter painter(&image_);
-    painter.setPen(toQColor(foreColor()));
-    painter.setFont(font_);
-    painter.drawText(x, y + fontAscent_, QString::fromStdString(text));
+    // Text is written in the fore colour whatever the draw style.
+    painter(DrawSolid).drawText(x, y + fontAscent_, QString::fromStdString(text));
 }
 
 int QtCanvas::textWidth(const std::string& text) const {
@@ -142,7 +163,9 @@ void QtCanvas::move(int, int, int width, int height) {
     resize(width, height);
 }
 
-void QtCanvas::refresh() {}
+void QtCanvas::refresh() {
+    endPainting();
+}
 
 void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
                              int sw, int sh) {
@@ -156,6 +179,7 @@ void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh
     if (left >= right || top >= bottom) {
         return;
     }
+    endPainting();
     // Nearest neighbour: each destination pixel takes the source pixel under its centre.
     const auto sourceIndex = [](int d, int dSize, int s, int sSize) {
         return s + static_cast<int>((2LL * d + 1) * sSize / (2LL * dSize));
@@ -185,14 +209,14 @@ bool QtCanvas::saveImage(const std::string& path) const {
     std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     const char* format = extension == ".bmp" ? "BMP" : extension == ".png" ? "PNG" : nullptr;
-    return format != nullptr && image_.save(QString::fromStdString(path), format);
+    return format != nullptr && image().save(QString::fromStdString(path), format);
 }
 
 bool QtCanvas::saveBitmap(const std::string& path) const {
     // Encoded in memory first, so that a failure to write leaves no partial file.
     QByteArray encoded;
     QBuffer buffer(&encoded);
-    if (!buffer.open(QIODevice::WriteOnly) || !image_.save(&buffer, "BMP")) {
+    if (!buffer.open(QIODevice::WriteOnly) || !image().save(&buffer, "BMP")) {
         return false;
     }
     PosixFileSystem system;

@@ -1,17 +1,21 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "qt/ScanlineFiller.h"
 
 #include <QFont>
 #include <QImage>
+#include <QPainter>
 #include <string>
 #include <utility>
 
-class QPainter;
-
 // A canvas painted into a persistent image, pixel for pixel without antialiasing, the way a
-// picture box keeps its picture. It is not a widget: refresh does nothing here, and a
-// canvas shown on screen (CanvasWidget) repaints its widget instead.
+// picture box keeps its picture. It is not a widget: refresh only ends the painting here, and
+// a canvas shown on screen (CanvasWidget) repaints its widget as well.
+//
+// One painter stays open from the first drawing call to the refresh (or to anything that reads,
+// copies or replaces the image), because opening one costs more than painting a small face.
+// Solid polygons without outline, most of a redraw, bypass it (ScanlineFiller).
 class QtCanvas : public Canvas {
 public:
     QtCanvas(int width, int height);
@@ -40,15 +44,28 @@ public:
     // Replaces the file whole or not at all.
     bool saveBitmap(const std::string& path) const override;
 
-    const QImage& image() const { return image_; }
+    const QImage& image() const {
+        endPainting();
+        return image_;
+    }
     // Writes the image as BMP or PNG, chosen by the file's extension; false for any other
     // extension or when the file cannot be written.
     bool saveImage(const std::string& path) const;
 
 private:
-    void setPen(QPainter& painter) const;
+    // The open painter, with the pen for the fore colour in the given style and the brush for
+    // the fill colour and style; both are rebuilt only when they change.
+    QPainter& painter(int drawStyle);
+    void endPainting() const;
 
     QImage image_;
+    mutable QPainter painter_;
+    int32_t penColor_ = 0;
+    int penStyle_ = -1; // no pen set yet
+    int32_t brushColor_ = 0;
+    int brushStyle_ = -1; // no brush set yet
+    ScanlineFiller filler_;
+    std::vector<QPoint> corners_; // kept, so that a polygon allocates nothing
     QFont font_;
     int fontAscent_;
     int penX_ = 0;

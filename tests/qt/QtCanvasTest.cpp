@@ -199,3 +199,45 @@ TEST(QtCanvas, SaveBitmapWritesAWholeBmpFileOrNone) {
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
               QStringList{"view.bmp"});
 }
+
+TEST(QtCanvas, OnePainterFollowsEveryChangeOfStyleAndColourAndEndsWhenTheImageIsRead) {
+    QtCanvas canvas(40, 40);
+    canvas.setForeColor(Red);
+    canvas.moveTo(0, 1);
+    canvas.lineTo(10, 1);
+    canvas.setForeColor(Green);
+    canvas.lineTo(20, 1);
+    // A hatch, then in the same colour a polygon that is only outlined, then a solid one.
+    canvas.setFillColor(Red);
+    canvas.setFillStyle(FillDiagonalCross);
+    canvas.polygon(square(2, 10, 12, 20));
+    canvas.setFillStyle(FillTransparent);
+    canvas.polygon(square(14, 10, 24, 20));
+    canvas.setFillStyle(FillSolid);
+    canvas.setFillColor(Blue);
+    canvas.polygon(square(26, 10, 36, 20));
+    // Text is written whatever the draw style.
+    canvas.setDrawStyle(DrawInvisible);
+    canvas.setForeColor(0xFFFFFF);
+    canvas.textOut(0, 24, "X");
+    EXPECT_FALSE(canvas.image().paintingActive());
+
+    EXPECT_EQ(at(canvas, 5, 1), RedPixel);
+    EXPECT_EQ(at(canvas, 15, 1), GreenPixel);
+    EXPECT_EQ(at(canvas, 31, 15), BluePixel);
+    EXPECT_EQ(at(canvas, 26, 15), GreenPixel); // a solid polygon with a pen keeps its outline
+    int unfilled = 0;
+    int written = 0;
+    for (int y = 11; y < 20; ++y) {
+        for (int x = 15; x < 24; ++x) {
+            unfilled += at(canvas, x, y) == Black;
+        }
+    }
+    for (int y = 24; y < 40; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            written += at(canvas, x, y) == 0xFFFFFFu;
+        }
+    }
+    EXPECT_EQ(unfilled, 81);
+    EXPECT_GT(written, 3);
+}

@@ -5,6 +5,7 @@
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
+#include "support/QPainterCanvas.h"
 #include "support/RecordingCanvas.h"
 
 #include <QDir>
@@ -129,4 +130,21 @@ TEST(SceneImage, NothingBehindTheEyeIsDrawn) {
     renderer.redrawViewport(a, isometric(), plain.scene());
     renderer.redrawViewport(b, isometric(), withHidden.scene());
     EXPECT_EQ(a.image(), b.image());
+}
+
+TEST(SceneImage, OurSolidFillPaintsTheScenesAsQPainterDoes) {
+    SceneDocument document = smallScene();
+    ViewportRenderer renderer;
+    for (const int32_t viewConstant :
+         {KorvanOpsConsts::viewTop, KorvanOpsConsts::viewSide, KorvanOpsConsts::viewFront,
+          KorvanOpsConsts::viewIsometric}) {
+        ViewSpecs view;
+        KorvanOpsConsts::setOrthoView(viewConstant, view);
+        QtCanvas ours(800, 600);
+        QPainterCanvas reference(800, 600);
+        renderer.redrawViewport(ours, view, document.scene());
+        renderer.redrawViewport(reference, view, document.scene());
+        // Faces meet at shared edges; a few pixels there may go to the other face.
+        EXPECT_LE(edgeDifferences(ours.image(), reference), 10) << viewConstant;
+    }
 }
