@@ -17,6 +17,8 @@ void report(const std::string& what) {
 void EventGuard::run(const std::function<void()>& handler) {
     try {
         handler();
+    } catch (const Stop&) {
+        throw;
     } catch (const std::exception& e) {
         report(e.what());
     } catch (...) {

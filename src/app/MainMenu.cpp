@@ -95,10 +95,43 @@ MenuItem& MainMenu::item(const std::string& name) {
 }
 
 void MainMenu::bind(const std::string& name, std::function<void()> command) {
-    item(name).setCommand([this, command = std::move(command)] {
+    MenuItem& bound = item(name);
+    bound.setCommand([this, &bound, command = std::move(command)] {
+        if (choiceListener) {
+            choiceListener(bound);
+        }
         command();
         if (afterCommand) {
             afterCommand();
         }
     });
+}
+
+namespace {
+
+// Appends the captions from below from down to item; false when item is not there.
+bool pathTo(const MenuItem& from, const MenuItem& item, std::vector<std::string>& path) {
+    for (const auto& child : from.getChildren()) {
+        path.push_back(child->getCaption());
+        if (child.get() == &item || pathTo(*child, item, path)) {
+            return true;
+        }
+        path.pop_back();
+    }
+    return false;
+}
+
+} // namespace
+
+std::vector<std::string> MainMenu::pathOf(const MenuItem& item) const {
+    std::vector<std::string> path;
+    if (!pathTo(*popup, item, path)) {
+        pathTo(bar, item, path);
+    }
+    return path;
+}
+
+bool MainMenu::isInPopup(const MenuItem& item) const {
+    std::vector<std::string> path;
+    return pathTo(*popup, item, path);
 }

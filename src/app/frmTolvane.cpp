@@ -2,6 +2,7 @@
 
 #include "app/ModeCommands.h"
 #include "app/TreeKey.h"
+#include "app/UserEventListener.h"
 #include "app/ViewCommands.h"
 #include "app/WorkplaneCommands.h"
 #include "app/frmMouseSensivity.h"
@@ -19,6 +20,11 @@ frmTolvane::frmTolvane(ModalHost& dialogs)
     : modalHost(dialogs), document(SceneDocument::startUp()),
       mouseMode(std::make_unique<ClickHandleRotate>()) {
     menus.setAfterCommand([this] { refreshMenus(); });
+    menus.setChoiceListener([this](const MenuItem& item) {
+        if (userEvents != nullptr) {
+            userEvents->menuChosen(item);
+        }
+    });
     menus.bind("mnuSetMouseSensivity", [this] { mnuSetMouseSensivity_Click(); });
     ViewCommands::bind(menus, *this, viewports);
     ModeCommands::bind(menus, *this);
@@ -45,6 +51,9 @@ void frmTolvane::Form_Load() {
 }
 
 void frmTolvane::Form_Resize(int clientWidth, int clientHeight) {
+    if (userEvents != nullptr) {
+        userEvents->clientResized(clientWidth, clientHeight);
+    }
     viewports.setClientSize(clientWidth, clientHeight);
     layoutViewports();
 }
@@ -163,6 +172,9 @@ void frmTolvane::removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n
 }
 
 void frmTolvane::TreeView1_NodeClick(SceneTreeNode& Node) {
+    if (userEvents != nullptr) {
+        userEvents->treeNodeClicked(Node);
+    }
     TreeView1.SelectedItem = Node.shared_from_this();
     const TreeKey key(Node.key);
     resetAllSelect();
@@ -199,6 +211,9 @@ void frmTolvane::selectByNode(const std::vector<std::shared_ptr<Item>>& items, i
 }
 
 void frmTolvane::TreeView1_KeyDown(int KeyCode) {
+    if (userEvents != nullptr) {
+        userEvents->treeKeyPressed(KeyCode);
+    }
     if (KeyCode == keyCodeDelete && TreeView1.SelectedItem) {
         const std::string key = TreeView1.SelectedItem->key;
         const TreeKey parsed(key);
@@ -257,7 +272,10 @@ MouseEventArgs frmTolvane::eventArgs(Canvas& canvas, int32_t x, int32_t y,
                           TreeView1};
 }
 
-void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y) {
+void frmTolvane::picOrtho_MouseDown(int index, int button, int shift, float x, float y) {
+    if (userEvents != nullptr) {
+        userEvents->mousePressed(index, button, shift, x, y);
+    }
     Canvas* canvas = viewports.canvas(index);
     if (canvas == nullptr) {
         return;
@@ -296,7 +314,10 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int, float x, float y
     refreshMenus();
 }
 
-void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y) {
+void frmTolvane::picOrtho_MouseMove(int index, int button, int shift, float x, float y) {
+    if (userEvents != nullptr) {
+        userEvents->mouseMoved(index, button, shift, x, y);
+    }
     Canvas* canvas = viewports.canvas(index);
     if (canvas == nullptr) {
         return;
@@ -328,6 +349,9 @@ void frmTolvane::picOrtho_MouseMove(int index, int button, int, float x, float y
 }
 
 void frmTolvane::Form_KeyDown(int KeyCode) {
+    if (userEvents != nullptr) {
+        userEvents->keyPressed(KeyCode);
+    }
     if (KeyCode == 13) {
         showSelectedProperties();
     } else if (KeyCode == 67) {

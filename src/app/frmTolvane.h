@@ -25,6 +25,7 @@ class Canvas;
 class ColorChooser;
 class FileChooser;
 class ModalHost;
+class UserEventListener;
 class WindowFrame;
 
 // The main window's logic: the one object mouse modes and dialogs call back. Each of its
@@ -110,6 +111,10 @@ public:
     // items' properties, C (67) closes the profile, E (69) extrudes the selected profiles.
     void Form_KeyDown(int KeyCode);
 
+    // The one told of each event the desktop hands this window (not of the start-up load),
+    // or nullptr.
+    void setUserEventListener(UserEventListener* listener) { userEvents = listener; }
+
     // The menu bar and the pop-up menu, with their commands bound.
     MainMenu& getMenus() { return menus; }
     // The tree anew from the document.
@@ -153,6 +158,7 @@ private:
     TavrinMeshIO meshIO;
     MainMenu menus;
     WindowFrame* windowFrame = nullptr;
+    UserEventListener* userEvents = nullptr;
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
     std::optional<SelectedItemCommands> selectedItemCommands;

@@ -5,15 +5,19 @@
 #include "cli/HeadlessExtrusion.h"
 #include "cli/ProfileFile.h"
 #include "cli/SvgCanvas.h"
+#include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
 #include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
+#include "macro/HeadlessEditor.h"
+#include "macro/MacroFile.h"
 #include "qt/QtCanvas.h"
 #include "render/ViewportRenderer.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
+#include <array>
 #include <cctype>
 #include <cerrno>
 #include <cstdio>
@@ -84,6 +88,9 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
             break;
         case CliOptions::Command::Extrude:
             extrude(options, err);
+            break;
+        case CliOptions::Command::Replay:
+            replay(options);
             break;
         }
         if (!out.flush()) {
@@ -218,5 +225,54 @@ void CliApp::extrude(const CliOptions& options, std::ostream& err) const {
         throw CliError("cannot write " + CliError::quoted(options.output) + ": " +
                            CliError::reason(meshIO.getLastError()),
                        CliError::failure);
+    }
+}
+
+void CliApp::replay(const CliOptions& options) const {
+    const std::string name = CliError::quoted(options.input);
+    // A macro of a long session is large, but not this large.
+    constexpr uint64_t maxBytes = 512ULL * 1024 * 1024;
+    FileSystem::Status status;
+    if (!files_.status(options.input, status) && status.kind == FileSystem::Kind::Regular &&
+        status.size > maxBytes) {
+        throw CliError("cannot read " + name + ": a macro may not exceed " +
+                           std::to_string(maxBytes) + " bytes",
+                       CliError::failure);
+    }
+    std::vector<uint8_t> bytes;
+    if (const std::error_code error = FileBytes::read(files_, options.input, 0, bytes)) {
+        throw CliError("cannot open " + name + ": " + CliError::reason(error), CliError::failure);
+    }
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    std::optional<MacroFile> macro;
+    try {
+        macro.emplace(text);
+    } catch (const MacroSyntax::Error& error) {
+        throw CliError("cannot read " + name + " " + error.what(), CliError::failure);
+    }
+
+    std::array<SvgCanvas, 4> canvases{SvgCanvas(0, 0), SvgCanvas(0, 0), SvgCanvas(0, 0),
+                                      SvgCanvas(0, 0)};
+    HeadlessEditor editor(*macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+    try {
+        editor.player.playAll();
+    } catch (const MacroPlayer::Error& error) {
+        throw CliError(options.input + " " + error.what(), CliError::failure);
+    }
+    if (!options.output.empty()) {
+        TavrinMeshIO meshIO(files_);
+        std::string path = options.output;
+        if (!meshIO.saveFile(editor.form.getDocument().solids, path)) {
+            throw CliError("cannot write " + CliError::quoted(options.output) + ": " +
+                               CliError::reason(meshIO.getLastError()),
+                           CliError::failure);
+        }
+    }
+    if (!options.svgDir.empty()) {
+        for (size_t i = 0; i < canvases.size(); ++i) {
+            const std::string svg = canvases[i].svg();
+            writeOutput(options.svgDir + "/viewport" + std::to_string(i) + ".svg",
+                        {reinterpret_cast<const uint8_t*>(svg.data()), svg.size()});
+        }
     }
 }

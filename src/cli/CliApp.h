@@ -30,6 +30,7 @@ private:
     void info(const CliOptions& options, std::ostream& out) const;
     // Notes the dialog shows without refusing go to err as warnings.
     void extrude(const CliOptions& options, std::ostream& err) const;
+    void replay(const CliOptions& options) const;
 
     FileSystem& files_;
 };

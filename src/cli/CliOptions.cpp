@@ -203,6 +203,8 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         options.command = Command::Info;
     } else if (args[0] == "extrude") {
         options.command = Command::Extrude;
+    } else if (args[0] == "replay") {
+        options.command = Command::Replay;
     } else {
         throw usageError("unknown command '" + args[0] + "' (try --help)");
     }
@@ -227,6 +229,11 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         };
         if (arg == "-o") {
             options.output = value();
+        } else if (options.command == Command::Replay) {
+            if (arg != "--svg-dir") {
+                throw usageError("unknown option '" + arg + "' (try --help)");
+            }
+            options.svgDir = value();
         } else if (!(options.command == Command::Render
                          ? parseRenderOption(arg, value, options)
                          : parseExtrudeOption(arg, value, options.extrusion))) {
@@ -236,8 +243,9 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
 
     const bool extrude = options.command == Command::Extrude;
     if (options.input.empty()) {
-        throw usageError(extrude ? "no profile file given (try --help)"
-                                 : "no scene file given (try --help)");
+        throw usageError(extrude                              ? "no profile file given (try --help)"
+                         : options.command == Command::Replay ? "no macro file given (try --help)"
+                                                              : "no scene file given (try --help)");
     }
     if (options.command == Command::Render) {
         if (options.output.empty()) {
@@ -245,10 +253,10 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         }
         options.format = outputFormat(options.output);
     }
-    if (extrude) {
-        if (options.output.empty()) {
-            throw usageError("extrude needs an output file: -o OUT.tvm");
-        }
+    if (extrude && options.output.empty()) {
+        throw usageError("extrude needs an output file: -o OUT.tvm");
+    }
+    if (extrude || (options.command == Command::Replay && !options.output.empty())) {
         // The writer cleans names as it does those from the file dialog; a name it would
         // change would make it write a different file.
         if (TavrinMeshIO::normalizeFileName(options.output) != options.output) {
@@ -263,6 +271,7 @@ std::string CliOptions::helpText() {
     return R"(Usage: korvan-cli render SCENE.tvm -o OUT [options]
        korvan-cli info SCENE.tvm
        korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
+       korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR]
        korvan-cli -h | --help
 
 Draws, describes or makes Tavrin Mesh Files (.tvm) without opening the editor.
@@ -282,6 +291,15 @@ Commands:
            one point per line, three numbers x y z separated by blanks, in the
            profile's order; a closed profile repeats its first point as its last
            line. Blank lines are skipped.
+  replay   Plays a macro (recorded with korvan --record, or written by hand; see
+           docs/MACROS.md) in the editor's logic without a screen: every command,
+           dialog and answer runs as in the editor. -o OUT.tvm saves the solids
+           the macro ends with, as File > Save would; --svg-dir DIR writes each
+           viewport's last drawing to DIR/viewport0.svg ... viewport3.svg, in
+           the form render writes. A line that does not fit what it meets (a
+           dialog that is not open, a disabled menu item, an unknown control)
+           stops the replay with a message naming the line, and nothing is
+           written.
 
 Options of render (they may come before or after SCENE.tvm):
   -o OUT         output file ending in .png, .bmp or .svg (required)
@@ -326,7 +344,7 @@ Exit status:
   0  success
   1  the work failed: a scene or profile cannot be read (missing, not a
      regular file, not a .tvm name, corrupt, malformed), the extrusion is
-     refused (its message is the dialog's own), or the output or standard
+     refused (its message is the dialog's own), a macro stops, or the output or standard
      output cannot be written; an existing OUT is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
      missing input or output, wrong output extension

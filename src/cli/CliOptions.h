@@ -9,7 +9,7 @@
 
 // The command line of korvan-cli, parsed and checked before any file is touched.
 struct CliOptions {
-    enum class Command { Help, Render, Info, Extrude };
+    enum class Command { Help, Render, Info, Extrude, Replay };
     enum class Format { Png, Bmp, Svg };
 
     // What the extrusion dialog's controls are to hold; the texts are typed in as given, so
@@ -32,8 +32,9 @@ struct CliOptions {
     };
 
     Command command = Command::Help;
-    std::string input;  // the scene (render, info) or the profile (extrude), as the user wrote it
-    std::string output; // render and extrude
+    std::string input;  // the scene (render, info), the profile (extrude) or the macro (replay)
+    std::string output; // render and extrude; for replay the scene to save, or ""
+    std::string svgDir; // replay: where each viewport's drawing goes, or ""
     Format format = Format::Png;
     int view = KorvanOpsConsts::viewIsometric;
     bool parallel = false;

@@ -28,6 +28,12 @@ public:
     void clear() override;
     void refresh() override {}
     void stretchBlitOr(const Bitmap&, int, int, int, int, int, int, int, int) override {}
+    // As a viewport of an editor played without a screen, the canvas takes the size the
+    // window's layout gives it.
+    void move(int, int, int width, int height) override {
+        width_ = width;
+        height_ = height;
+    }
 
     // The whole picture as an SVG document.
     std::string svg() const;
