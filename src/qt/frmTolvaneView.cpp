@@ -89,6 +89,14 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
     EventGuard::run([this] { form_.Form_Load(); });
 }
 
+void frmTolvaneView::setClientSize(int width, int height) {
+    QWidget* client = centralWidget();
+    resize(width + this->width() - client->width(), height + this->height() - client->height());
+    // A visible child takes its new size at once, so the logic hears of it now and not when
+    // the window system has answered.
+    client->resize(width, height);
+}
+
 void frmTolvaneView::clientResized(int width, int height) {
     EventGuard::run([&] { form_.Form_Resize(width, height); });
     const ControlPlacement& tree = form_.getTreePlacement();

@@ -24,6 +24,12 @@ public:
     CanvasWidget& picOrtho(int index) { return *canvases_[static_cast<size_t>(index)]; }
     SceneTreeView& TreeView1() { return *tree_; }
 
+    // The file and colour dialogs the window's commands open.
+    FileChooser& fileChooser() { return files_; }
+    ColorChooser& colorChooser() { return colors_; }
+    // Sizes the window so that its client area is width x height, and tells the logic at once.
+    void setClientSize(int width, int height);
+
     void setMousePointer(MousePointer pointer) override;
     void showPopupMenu(Canvas& canvas, int x, int y) override;
     void unload() override { close(); }

@@ -1,6 +1,10 @@
 #include "app/frmMouseSensivity.h"
 #include "app/frmSplash.h"
 #include "app/frmTolvane.h"
+#include "macro/MacroFile.h"
+#include "macro/MacroPlayer.h"
+#include "macro/MacroRecorder.h"
+#include "macro/MacroWriter.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "modelling/frmExtrude.h"
 #include "modelling/frmFaceProperty.h"
@@ -22,10 +26,20 @@
 #include "qt/frmWorkPlanePropertyView.h"
 
 #include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <optional>
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QtModalHost dialogs;
+namespace {
+
+// How long a replay waits between two actions of the window, so that one can follow it.
+constexpr int replayStepMs = 10;
+
+void registerViews(QtModalHost& dialogs) {
     dialogs.registerView<frmMouseSensivity, frmMouseSensivityView>();
     dialogs.registerView<frmWorkPlaneParametric, frmWorkPlaneParametricView>();
     dialogs.registerView<frmWorkPlaneProperty, frmWorkPlanePropertyView>();
@@ -36,12 +50,27 @@ int main(int argc, char** argv) {
     dialogs.registerView<frmFaceProperty, frmFacePropertyView>();
     dialogs.registerView<frmPointIndexSelect, frmPointIndexSelectView>();
     dialogs.registerView<frmSolidProperty, frmSolidPropertyView>();
-    frmTolvane form(dialogs);
+}
+
+// A failure before the window opens: a message on standard error and in a box.
+int fail(const std::string& message) {
+    std::fprintf(stderr, "korvan: %s\n", message.c_str());
+    QMessageBox::critical(nullptr, "Korvan", QString::fromStdString(message));
+    return 1;
+}
+
+// The editor as the user meets it: the splash plays first and shows the main window when
+// it is done. With a recorder, everything the user does is written to its macro.
+int runEditor(MacroRecorder* recorder, QtModalHost& dialogs) {
+    ModalHost& host = recorder != nullptr ? static_cast<ModalHost&>(*recorder) : dialogs;
+    frmTolvane form(host);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);
     installPrompts(&prompts);
-
-    // The splash plays first and shows the main window when it is done.
+    if (recorder != nullptr) {
+        recorder->attach(form, window, window.fileChooser(), window.colorChooser(), prompts);
+        installPrompts(recorder);
+    }
     frmSplash splashForm;
     frmSplashView splash(splashForm);
     QObject::connect(&splash, &frmSplashView::finished, &window, &QWidget::show);
@@ -50,4 +79,76 @@ int main(int argc, char** argv) {
     const int status = QApplication::exec();
     installPrompts(nullptr);
     return status;
+}
+
+// Plays the macro in the editor's window, one action of the window at a time, and leaves
+// the window open at the end; a line that does not fit stops the replay with a message.
+int replay(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return fail("cannot open the macro " + path);
+    }
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::optional<MacroFile> macro;
+    try {
+        macro.emplace(text);
+    } catch (const MacroSyntax::Error& error) {
+        return fail(path + " " + error.what());
+    }
+    MacroPlayer player(*macro);
+    frmTolvane form(player);
+    frmTolvaneView window(form);
+    player.attach(form, &window);
+    player.setResizer([&window](int width, int height) { window.setClientSize(width, height); });
+    installPrompts(&player);
+
+    std::function<void()> next = [&] {
+        try {
+            if (player.step()) {
+                QTimer::singleShot(replayStepMs, &window, next);
+                return;
+            }
+            std::fprintf(stderr, "korvan: replayed %s (%ld actions)\n", path.c_str(),
+                         player.played());
+        } catch (const MacroPlayer::Error& error) {
+            const std::string message = path + " " + error.what();
+            std::fprintf(stderr, "korvan: %s\n", message.c_str());
+            QMessageBox::critical(&window, "Replay stopped", QString::fromStdString(message));
+        }
+    };
+    window.show();
+    QTimer::singleShot(replayStepMs, &window, next);
+    const int status = QApplication::exec();
+    installPrompts(nullptr);
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    const QStringList args = QApplication::arguments();
+    const auto usage = [] { return fail("usage: korvan [--record MACRO | --replay MACRO]"); };
+    if (args.size() > 3 || args.size() == 2) {
+        return usage();
+    }
+    QtModalHost dialogs;
+    registerViews(dialogs);
+    if (args.size() == 1) {
+        return runEditor(nullptr, dialogs);
+    }
+    const std::string path = args[2].toStdString();
+    if (args[1] == "--replay") {
+        return replay(path);
+    }
+    if (args[1] != "--record") {
+        return usage();
+    }
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (!out) {
+        return fail("cannot write the macro " + path);
+    }
+    MacroWriter writer(out);
+    MacroRecorder recorder(writer, dialogs);
+    return runEditor(&recorder, dialogs);
 }
