@@ -257,7 +257,7 @@ void CliApp::replay(const CliOptions& options) const {
     try {
         editor.player.playAll();
     } catch (const MacroPlayer::Error& error) {
-        throw CliError(options.input + " " + error.what(), CliError::failure);
+        throw CliError("replay of " + name + " stopped: " + error.what(), CliError::failure);
     }
     if (!options.output.empty()) {
         TavrinMeshIO meshIO(files_);

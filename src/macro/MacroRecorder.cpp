@@ -11,6 +11,7 @@ void MacroRecorder::attach(frmTolvane& form, WindowFrame& frame, FileChooser& fi
     prompts_ = &prompts;
     form.attachFrame(frame, *this, *this);
     form.setUserEventListener(this);
+    installPrompts(this);
 }
 
 void MacroRecorder::clientResized(int width, int height) {

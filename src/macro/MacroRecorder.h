@@ -25,7 +25,8 @@ public:
     // dialogs shows the dialogs; the form is made with this recorder as its host.
     MacroRecorder(MacroWriter& writer, ModalHost& dialogs) : writer_(writer), dialogs_(dialogs) {}
 
-    // Hears form's events and stands before the frame's choosers and the prompts.
+    // Hears form's events and stands before the frame's choosers and prompts, which it
+    // installs as the program's prompts in their place.
     void attach(frmTolvane& form, WindowFrame& frame, FileChooser& files, ColorChooser& colors,
                 Prompts& prompts);
 

@@ -69,7 +69,6 @@ int runEditor(MacroRecorder* recorder, QtModalHost& dialogs) {
     installPrompts(&prompts);
     if (recorder != nullptr) {
         recorder->attach(form, window, window.fileChooser(), window.colorChooser(), prompts);
-        installPrompts(recorder);
     }
     frmSplash splashForm;
     frmSplashView splash(splashForm);

@@ -412,3 +412,54 @@ TEST_F(CliEndToEnd, BadExtrusionOptionsAreUsageErrors) {
     }
     EXPECT_FALSE(fs::exists(dir_ / "out.tvm"));
 }
+
+// A session recorded in the editor: a workplane, a profile clicked onto it, two extrusions
+// (one turning at every step), a face's properties with a colour, and a save.
+TEST_F(CliEndToEnd, ReplaysAnEditorSessionToTheFileTheEditorSaved) {
+    const std::string editorFile = readAll(fs::path(KORVAN_CLI_DATA) / "editor-session.tvm");
+    std::string macro = readAll(fs::path(KORVAN_CLI_DATA) / "editor-session.macro");
+    const size_t saved = macro.find("SAVED");
+    ASSERT_NE(saved, std::string::npos);
+    macro.replace(saved, 5, (dir_ / "saved.tvm").string());
+    std::ofstream(dir_ / "session.macro") << macro;
+
+    const Outcome outcome =
+        run("replay " + at("session.macro") + " -o " + at("replayed.tvm") + " --svg-dir " + at(""));
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(readAll(dir_ / "saved.tvm"), editorFile);
+    EXPECT_EQ(readAll(dir_ / "replayed.tvm"), editorFile);
+    // The one viewport shown draws the solids; the hidden ones are only projected.
+    EXPECT_NE(readAll(dir_ / "viewport3.svg").find("<polygon"), std::string::npos);
+}
+
+TEST_F(CliEndToEnd, StopsAReplayAtTheLineThatDoesNotFitAndWritesNothing) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"resize 800 600\ndialog \"Extrude\" press mnuCancel\n",
+         "line 2: an action in the dialog \"Extrude\", but nothing asks for it"},
+        {"menu \"&Create\" \"&WorkPlane\" \"&Parameter Creation\"\n"
+         "dialog \"Parametric WorkPlane Creation\" press cmdNowhere\n",
+         "line 2: Parametric WorkPlane Creation has no button named cmdNowhere"},
+        {"menu \"&Create\" \"&Nothing\"\n", "line 1: the menu bar has no item &Create > &Nothing"},
+        {"menu \"&Selectors\" \"&Property <enter>\"\n",
+         "line 1: the menu item &Selectors > &Property <enter> is disabled"},
+        {"menu \"&Create\" \"&Extrusion\"\n",
+         "after line 1: the macro ends while a message box asks: Unable to extrude since no "
+         "profiles were selected.  Please select profile before extruding."},
+        {"resize 800 600\n\nmouse-press 0 1 0 5 5\n", "line 3: viewport 0 is not shown"},
+        {"resize 800 \"600\n", "line 1: a quoted text has no closing quote"},
+    };
+    for (const auto& [text, message] : cases) {
+        std::ofstream(dir_ / "bad.macro") << text;
+        const Outcome outcome = run("replay " + at("bad.macro") + " -o " + at("out.tvm"));
+        EXPECT_EQ(outcome.status, 1) << text;
+        const bool syntax = message.find("quote") != std::string::npos;
+        const std::string file = "'" + (dir_ / "bad.macro").string() + "'";
+        EXPECT_EQ(outcome.err,
+                  "korvan-cli: " +
+                      (syntax ? "cannot read " + file + " " : "replay of " + file + " stopped: ") +
+                      message + "\n")
+            << text;
+    }
+    EXPECT_FALSE(fs::exists(dir_ / "out.tvm"));
+}
