@@ -125,6 +125,11 @@ bool ProfileCommands::closeProfile() {
     dialog.initialize(guess);
     dialogs_.showModal(dialog);
 
+    // A profile closed again (C pressed twice) keeps one node, which lists its points as
+    // they are now.
+    if (const std::string key = tree_.keyOf(profile); !key.empty()) {
+        tree_.removeNode(key);
+    }
     tree_.addProfileNode(profile, "Profile");
     if (dialog.hasConfirmed()) {
         if (dialog.getOrientation().getOrientation() == Orientation2D::CounterClockWise) {

@@ -225,6 +225,16 @@ void SceneTreeModel::addWorkplaneNode(const std::shared_ptr<WorkPlane>& workPlan
         makeNode("Y Rotation: " + NumberText::single(workPlane->getYRotation()), "rotation"));
 }
 
+std::string SceneTreeModel::keyOf(const std::shared_ptr<Profile>& profile) const {
+    for (const auto& node : root_->children()) {
+        const auto* item = std::any_cast<std::shared_ptr<Profile>>(&node->tag);
+        if (item != nullptr && *item == profile) {
+            return node->key;
+        }
+    }
+    return "";
+}
+
 void SceneTreeModel::addProfileNode(const std::shared_ptr<Profile>& profile,
                                     const std::string& caption) {
     const Change change(*this);

@@ -52,6 +52,8 @@ public:
     void addSolidFaceChildNodes(SceneTreeNode& node, const Transformed3d& object, int32_t number);
     void addWorkplaneNode(const std::shared_ptr<WorkPlane>& workPlane, const std::string& caption);
     void addProfileNode(const std::shared_ptr<Profile>& profile, const std::string& caption);
+    // The key of the top-level node that stands for the profile, or "" when it has none.
+    std::string keyOf(const std::shared_ptr<Profile>& profile) const;
 
     // Makes the children the node left for later, telling the listener.
     void makeLaterChildren(SceneTreeNode& node);

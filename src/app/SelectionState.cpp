@@ -1,5 +1,6 @@
 #include "app/SelectionState.h"
 
+#include "app/SceneDocument.h"
 #include "app/SceneTreeNode.h"
 #include "platform/Prompts.h"
 #include "scene/Face3d.h"
@@ -7,6 +8,7 @@
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -107,4 +109,40 @@ void SelectionState::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node,
 void SelectionState::updatePropertyMenu() {
     propertyMenuEnabled_ = !selectedSolids.empty() || !selectedFaces.empty() ||
                            !selectedWorkplanes.empty() || !selectedProfiles.empty();
+}
+
+namespace {
+
+// Removes the items pred does not keep; true when it removed any.
+template <class Item, class Keep>
+bool keepOnly(std::vector<std::shared_ptr<Item>>& items, Keep keep) {
+    const auto gone = std::remove_if(
+        items.begin(), items.end(), [&](const std::shared_ptr<Item>& item) { return !keep(item); });
+    const bool removed = gone != items.end();
+    items.erase(gone, items.end());
+    return removed;
+}
+
+template <class Item>
+bool keepHeld(std::vector<std::shared_ptr<Item>>& items,
+              const std::vector<std::shared_ptr<Item>>& held) {
+    return keepOnly(items, [&](const std::shared_ptr<Item>& item) {
+        return std::find(held.begin(), held.end(), item) != held.end();
+    });
+}
+
+} // namespace
+
+void SelectionState::forgetAllBut(const SceneDocument& document) {
+    bool forgot = keepHeld(selectedSolids, document.solids);
+    forgot |= keepHeld(selectedWorkplanes, document.workPlanes);
+    forgot |= keepHeld(selectedProfiles, document.profiles);
+    forgot |= keepOnly(selectedFaces, [&](const std::shared_ptr<Face3d>& face) {
+        return std::any_of(document.solids.begin(), document.solids.end(), [&](const auto& solid) {
+            return solid->getSolid() && face->getSolidContainer() == solid->getSolid().get();
+        });
+    });
+    if (forgot) {
+        updatePropertyMenu();
+    }
 }

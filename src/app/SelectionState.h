@@ -9,6 +9,7 @@ class Profile;
 class Transformed3d;
 class TreeDisplayNode;
 class WorkPlane;
+struct SceneDocument;
 
 // What is selected: the selected items of each kind, whose own selected flags drive the
 // highlighting in the viewports, and the tree nodes painted for them. A collection is
@@ -39,6 +40,10 @@ public:
     // Solids, faces, workplanes, nodes, profiles: every selection and highlight cleared.
     void resetAllSelect();
     void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color);
+    // Forgets the selected items the document no longer holds (deleted, cancelled, replaced
+    // by Open or New), so that no command acts on them; the property menu follows when
+    // anything was forgotten.
+    void forgetAllBut(const SceneDocument& document);
 
     // The property menu is enabled when something of any kind is selected. It is worked out
     // again only where the selection says so, not after every change: profiles leave it be.

@@ -364,6 +364,7 @@ void frmTolvane::Form_KeyDown(int KeyCode) {
 }
 
 void frmTolvane::refreshMenus() {
+    selection.forgetAllBut(document);
     menus.item("mnuProperty").setEnabled(isPropertyMenuEnabled());
 }
 

@@ -90,6 +90,7 @@ public:
     void TreeView1_NodeClick(SceneTreeNode& Node);
     void TreeView1_KeyDown(int KeyCode);
     SceneTreeModel& getSceneTree() { return TreeView1; }
+    const SceneTreeModel& getSceneTree() const { return TreeView1; }
 
     // The profile being drawn: a new one on the selected workplane, the current one, and
     // what the profile tool calls back.
@@ -130,6 +131,8 @@ public:
     int32_t getPopupViewport() const { return popupViewport; }
     const ControlPlacement& getTreePlacement() const { return viewports.getTreePlacement(); }
     SceneDocument& getDocument() { return document; }
+    const SceneDocument& getDocument() const { return document; }
+    const SelectionState& getSelection() const { return selection; }
     const ViewSpecs& getViewSpecs(int number) const { return viewports.viewSpecs(number); }
 
     // The key code TreeView1_KeyDown acts on.
@@ -143,7 +146,8 @@ private:
     void selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
                       SceneTreeNode& node, int32_t color, Select select);
     MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
-    // Brings the menus' enabled states up to date; every command and event ends with it.
+    // Forgets selected items that left the document and brings the menus' enabled states
+    // up to date; every command and event ends with it.
     void refreshMenus();
 
     ModalHost& modalHost;

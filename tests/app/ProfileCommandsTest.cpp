@@ -190,6 +190,19 @@ TEST(ProfileCommands, RedrawAndCancelAskFirstAndNeedACurrentProfile) {
     EXPECT_EQ(d.prompts.messages().back().title, "Error Closing Profile");
 }
 
+TEST(ProfileCommands, ClosingAgainKeepsOneNodeListingEveryPoint) {
+    Drawing d(3);
+    d.dialogs.queueDialog({Host::choose("optCW"), Host::press("mnuConfirm")});
+    d.dialogs.queueDialog({Host::choose("optCW"), Host::press("mnuConfirm")});
+    d.form.Form_KeyDown(67);
+    d.form.Form_KeyDown(67);
+    EXPECT_TRUE(d.hasNode("r1"));
+    EXPECT_FALSE(d.hasNode("r2"));
+    const auto& nodes = d.form.getSceneTree().root().children();
+    ASSERT_EQ(nodes.size(), 1u); // the workplane was put in the document without its node
+    EXPECT_EQ(nodes.back()->children().size(), 5u);
+}
+
 TEST(ProfileCommands, CancellingAClosedProfileTakesItsNodeToo) {
     Drawing d(3);
     d.dialogs.queueDialog({Host::choose("optCW"), Host::press("mnuConfirm")});

@@ -90,8 +90,12 @@ TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw
     object->setSolid(makeCube(0.5f));
     auto workPlane = std::make_shared<WorkPlane>();
     workPlane->initialize(3, 0, 0, 0, 0);
+    const auto profile = square();
+    w.form.getDocument().solids.push_back(object);
+    w.form.getDocument().workPlanes.push_back(workPlane);
+    w.form.getDocument().profiles.push_back(profile);
     // Set in the reverse of the order the dialogs open in.
-    w.form.setSelectedProfiles({square()});
+    w.form.setSelectedProfiles({profile});
     w.form.setSelectedWorkplanes({workPlane});
     w.form.setSelectedSolids({object});
     w.form.setSelectedFaces({object->getFaces().front()});

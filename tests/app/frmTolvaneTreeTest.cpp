@@ -44,6 +44,9 @@ TEST(frmTolvaneTree, DeleteRemovesTheClickedSolidAndTheTreeIsNumberedAfresh) {
     w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     ASSERT_EQ(w.form.getDocument().solids.size(), 2u);
     EXPECT_EQ(w.form.getDocument().solids[1], third);
+    // The deleted solid is no longer selected, so Properties cannot reach it.
+    EXPECT_TRUE(w.form.getSelection().selectedSolids.empty());
+    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
     ASSERT_EQ(w.topNodes().size(), 2u);
     EXPECT_EQ(w.topNodes()[1]->key, "s2");
     EXPECT_EQ(w.topNodes()[1]->text, "Solid 2");

@@ -1,0 +1,103 @@
+#include "support/Monkey.h"
+#include "app/EventGuard.h"
+#include "app/frmTolvane.h"
+#include "macro/BlankCanvas.h"
+#include "macro/HeadlessEditor.h"
+#include "macro/MacroWriter.h"
+#include "scene/Face3d.h"
+#include "scene/Transformed3d.h"
+#include "support/DocumentInvariants.h"
+#include "support/TestSolids.h"
+#include "support/TestWindow.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+long fromEnvironment(const char* name, long fallback) {
+    const char* value = std::getenv(name);
+    return value != nullptr ? std::strtol(value, nullptr, 10) : fallback;
+}
+
+// Plays the monkey of one seed in an editor without a screen, checking the document after
+// every action of the window. The macro it played is kept when asked, and always when
+// something went wrong (an exception got out, a line did not fit, an invariant broke); the
+// failure names it.
+std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool keep) {
+    fs::create_directories(folder);
+    const fs::path macroPath = folder / ("monkey-" + std::to_string(seed) + ".macro");
+    std::string failure;
+    {
+        std::ofstream file(macroPath);
+        MacroWriter writer(file);
+        Monkey monkey(seed, actions, folder.string());
+        std::array<BlankCanvas, 4> canvases;
+        HeadlessEditor editor(monkey, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        editor.player.echoTo(&writer);
+        monkey.watch(editor.form);
+        try {
+            while (failure.empty() && editor.player.step()) {
+                failure = brokenInvariant(editor.form);
+            }
+        } catch (const std::exception& error) {
+            failure = error.what();
+        } catch (const EventGuard::Stop& stop) {
+            failure = stop.message;
+        }
+    }
+    if (failure.empty()) {
+        if (!keep) {
+            fs::remove(macroPath);
+        }
+        return "";
+    }
+    return "seed " + std::to_string(seed) + ": " + failure + " (replay with korvan-cli replay " +
+           macroPath.string() + ")";
+}
+
+} // namespace
+
+// 10 x 1,000 actions here. A long run sets the seeds, the actions per seed, the first seed
+// and a folder that keeps every macro: KORVAN_MONKEY_SEEDS=100 KORVAN_MONKEY_ACTIONS=10000
+// (docs/MACROS.md).
+TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
+    const long seeds = fromEnvironment("KORVAN_MONKEY_SEEDS", 10);
+    const long actions = fromEnvironment("KORVAN_MONKEY_ACTIONS", 1000);
+    const long first = fromEnvironment("KORVAN_MONKEY_FIRST_SEED", 1);
+    const char* keep = std::getenv("KORVAN_MONKEY_DIR");
+    const fs::path folder =
+        keep != nullptr ? fs::path(keep)
+                        : fs::temp_directory_path() / ("korvan-monkey-" + std::to_string(getpid()));
+    for (long seed = first; seed < first + seeds; ++seed) {
+        const std::string failure =
+            playMonkey(static_cast<uint64_t>(seed), actions, folder, keep != nullptr);
+        EXPECT_EQ(failure, "");
+    }
+    if (keep == nullptr && !HasFailure()) {
+        fs::remove_all(folder);
+    }
+}
+
+TEST(DocumentInvariants, NameWhatABrokenDocumentGotWrong) {
+    TestWindow w;
+    EXPECT_EQ(brokenInvariant(w.form), "");
+    auto solid = std::make_shared<Transformed3d>();
+    const std::shared_ptr<Solid3d> cube = makeCube();
+    solid->setSolid(cube);
+    w.form.getDocument().solids.push_back(solid);
+    EXPECT_EQ(brokenInvariant(w.form), "the tree has 0 nodes \"s\" for 1 items");
+    w.form.rebuildTree();
+    EXPECT_EQ(brokenInvariant(w.form), "");
+    cube->copyFaceList().back()->addIndex(9);
+    EXPECT_EQ(brokenInvariant(w.form), "a face of solid 1 names point 9 of 8");
+    w.form.getDocument().solids.clear();
+    w.form.rebuildTree();
+    w.form.setSelectedSolids({solid});
+    EXPECT_EQ(brokenInvariant(w.form), "a selected solid is not in the document");
+}
