@@ -1,13 +1,13 @@
 #include "render/KorvanOpsConsts.h"
 
-#include "BenchCanvas.h"
+#include "macro/BlankCanvas.h"
 
 #include <benchmark/benchmark.h>
 
 // The cost of building the matrix that maps world points onto a viewport's canvas,
 // paid once per viewport per redraw.
 static void BM_FullViewMatrix(benchmark::State& state) {
-    BenchCanvas canvas;
+    BlankCanvas canvas(1600, 900);
     ViewSpecs view;
     KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
     for (auto _ : state) {

@@ -1,5 +1,5 @@
-#include "BenchCanvas.h"
 #include "BenchScenes.h"
+#include "macro/BlankCanvas.h"
 #include "qt/QtCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
@@ -10,8 +10,9 @@
 namespace {
 
 // A canvas that keeps the polygons drawn on it with the colours and styles in force.
-class PolygonRecorder : public BenchCanvas {
+class PolygonRecorder : public BlankCanvas {
 public:
+    PolygonRecorder() : BlankCanvas(1600, 900) {}
     struct Call {
         std::vector<CanvasPoint> points;
         int fillStyle;

@@ -1,6 +1,6 @@
-#include "BenchCanvas.h"
 #include "BenchScenes.h"
 #include "app/SceneDocument.h"
+#include "macro/BlankCanvas.h"
 #include "qt/QtCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
@@ -16,7 +16,7 @@ ViewSpecs isometric() {
     return view;
 }
 
-// One viewport redraw of 1600 x 900 pixels. With the BenchCanvas nothing is painted, so the
+// One viewport redraw of 1600 x 900 pixels. With the BlankCanvas nothing is painted, so the
 // time is the geometry alone (transform, cull, clip, sort, shade); with the QtCanvas it
 // includes filling the polygons into the image. The difference is the filling.
 template <class CanvasType> void redraw(benchmark::State& state, SceneDocument document) {
@@ -32,19 +32,19 @@ template <class CanvasType> void redraw(benchmark::State& state, SceneDocument d
 } // namespace
 
 static void BM_Redraw_StartUp_Geometry(benchmark::State& state) {
-    redraw<BenchCanvas>(state, SceneDocument::startUp());
+    redraw<BlankCanvas>(state, SceneDocument::startUp());
 }
 static void BM_Redraw_StartUp_Painted(benchmark::State& state) {
     redraw<QtCanvas>(state, SceneDocument::startUp());
 }
 static void BM_Redraw_20Prisms_Geometry(benchmark::State& state) {
-    redraw<BenchCanvas>(state, BenchScenes::twentyPrisms());
+    redraw<BlankCanvas>(state, BenchScenes::twentyPrisms());
 }
 static void BM_Redraw_20Prisms_Painted(benchmark::State& state) {
     redraw<QtCanvas>(state, BenchScenes::twentyPrisms());
 }
 static void BM_Redraw_Twisted64x100_Geometry(benchmark::State& state) {
-    redraw<BenchCanvas>(state, BenchScenes::twistedExtrusion());
+    redraw<BlankCanvas>(state, BenchScenes::twistedExtrusion());
 }
 static void BM_Redraw_Twisted64x100_Painted(benchmark::State& state) {
     redraw<QtCanvas>(state, BenchScenes::twistedExtrusion());

@@ -1,6 +1,6 @@
 #include "../tests/support/LiteralFaceOrder.h"
-#include "BenchCanvas.h"
 #include "BenchScenes.h"
+#include "macro/BlankCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "scene/Solid3d.h"
 
@@ -44,7 +44,7 @@ std::shared_ptr<Solid3d> makeTorus(int rings, int segments) {
 }
 
 void project(Solid3d& solid, int viewNumber) {
-    BenchCanvas canvas;
+    BlankCanvas canvas(1600, 900);
     ViewSpecs view;
     KorvanOpsConsts::setOrthoView(viewNumber, view);
     float ex;

@@ -3,7 +3,7 @@
 // or stall.
 #include "app/SceneDocument.h"
 #include "io/TavrinMeshIO.h"
-#include "platform/Canvas.h"
+#include "macro/BlankCanvas.h"
 #include "platform/Prompts.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
@@ -27,20 +27,6 @@ public:
     }
 };
 
-// A canvas that paints nothing: the drawing code runs to the canvas calls all the same.
-class NullCanvas : public Canvas {
-public:
-    int scaleWidth() const override { return 320; }
-    int scaleHeight() const override { return 240; }
-    void polygon(const std::vector<CanvasPoint>&) override {}
-    void moveTo(int, int) override {}
-    void lineTo(int, int) override {}
-    void textOut(int, int, const std::string&) override {}
-    void clear() override {}
-    void refresh() override {}
-    void stretchBlitOr(const Bitmap&, int, int, int, int, int, int, int, int) override {}
-};
-
 void drawEveryWay(const ObjectList& objects) {
     SceneDocument document = SceneDocument::startUp();
     document.showGrid = false;
@@ -51,7 +37,7 @@ void drawEveryWay(const ObjectList& objects) {
             KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
             view.HideSurfaces = hide;
             view.wireFrame = wire;
-            NullCanvas canvas;
+            BlankCanvas canvas(320, 240);
             ViewportRenderer().redrawViewport(canvas, view, document.scene());
             for (const auto& object : objects) {
                 object->createFaceRegionEncaps(hide, true, 2);

@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# A short run of the mesh file fuzzer, one of CI's steps: builds the "fuzz" preset (clang)
-# in build/fuzz and fuzzes for 20 seconds from the seed files in fuzz/corpus. Needs clang
-# and its fuzzer runtime, which scripts/install-deps.sh installs.
+# A short run of every fuzzer, one of CI's steps: builds the "fuzz" preset (clang) in
+# build/fuzz and fuzzes each reader of outside input for 20 seconds from its seed files in
+# fuzz/corpus/<reader>: the mesh file, macros, and the profile files of korvan-cli extrude.
+# Needs clang and its fuzzer runtime, which scripts/install-deps.sh installs.
 # Findings are written to build/fuzz/ as crash-*, leak-*, timeout-* files.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+seconds="${1:-20}"
 
 if ! command -v clang++ >/dev/null ||
     ! clang++ -print-file-name="libclang_rt.fuzzer-$(uname -m).a" | grep -q /; then
@@ -18,6 +20,13 @@ cmake --build --preset fuzz -j 2
 # The fuzzer adds what it finds to its first folder: keep the committed seeds as they are.
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
-cp fuzz/corpus/* "$work/"
-./build/fuzz/fuzz/TavrinMeshIOFuzz -max_total_time=20 -timeout=10 -rss_limit_mb=2048 \
-    -artifact_prefix=build/fuzz/ -print_final_stats=1 "$work"
+for run in "TavrinMeshIOFuzz mesh" "MacroFuzz macro -dict=fuzz/macro.dict" \
+    "ProfileFileFuzz profile"; do
+    read -r harness corpus options <<<"$run"
+    mkdir "$work/$corpus"
+    cp "fuzz/corpus/$corpus"/* "$work/$corpus/"
+    echo "== $harness, $seconds seconds"
+    # shellcheck disable=SC2086 # options is a list of words
+    "./build/fuzz/fuzz/$harness" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
+        -artifact_prefix=build/fuzz/ -print_final_stats=1 ${options:-} "$work/$corpus"
+done

@@ -16,6 +16,8 @@
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
 
+#include <algorithm>
+
 frmTolvane::frmTolvane(ModalHost& dialogs)
     : modalHost(dialogs), document(SceneDocument::startUp()),
       mouseMode(std::make_unique<ClickHandleRotate>()) {
@@ -272,6 +274,13 @@ MouseEventArgs frmTolvane::eventArgs(Canvas& canvas, int32_t x, int32_t y,
                           TreeView1};
 }
 
+int32_t frmTolvane::canvasPixel(float coordinate) {
+    // No screen is a million pixels across; beyond that a position means nothing more, and
+    // differences of positions stay far inside 32 bits.
+    constexpr int32_t limit = 1 << 20;
+    return std::clamp(Rounding::toInt32(coordinate), -limit, limit);
+}
+
 void frmTolvane::picOrtho_MouseDown(int index, int button, int shift, float x, float y) {
     if (userEvents != nullptr) {
         userEvents->mousePressed(index, button, shift, x, y);
@@ -283,7 +292,7 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int shift, float x, f
     ViewSpecs& record = viewports.viewSpecs(index + 1);
     std::optional<viewInfo> vi{viewInfo{}};
     vi->setSpecs(record);
-    MouseEventArgs args = eventArgs(*canvas, Rounding::toInt32(x), Rounding::toInt32(y), vi);
+    MouseEventArgs args = eventArgs(*canvas, canvasPixel(x), canvasPixel(y), vi);
     std::optional<viewInfo> result;
     switch (button) {
     case 1:
@@ -306,7 +315,7 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int shift, float x, f
         // Shown after the handler's record is stored, so that the chosen command's change to
         // the record stays; it runs before this press redraws.
         if (windowFrame != nullptr) {
-            windowFrame->showPopupMenu(*canvas, Rounding::toInt32(x), Rounding::toInt32(y));
+            windowFrame->showPopupMenu(*canvas, canvasPixel(x), canvasPixel(y));
         }
     }
     HandleCollectedDatum();
@@ -323,8 +332,8 @@ void frmTolvane::picOrtho_MouseMove(int index, int button, int shift, float x, f
         return;
     }
     ViewSpecs& record = viewports.viewSpecs(index + 1);
-    const int32_t mouseX = Rounding::toInt32(x);
-    const int32_t mouseY = Rounding::toInt32(y);
+    const int32_t mouseX = canvasPixel(x);
+    const int32_t mouseY = canvasPixel(y);
     std::optional<viewInfo> vi{viewInfo{}};
     vi->setSpecs(record);
     if (button == 1) {

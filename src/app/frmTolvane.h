@@ -146,6 +146,8 @@ private:
     void selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
                       SceneTreeNode& node, int32_t color, Select select);
     MouseEventArgs eventArgs(Canvas& canvas, int32_t x, int32_t y, std::optional<viewInfo>& view);
+    // A mouse coordinate in whole canvas pixels, within a million or so of the canvas.
+    static int32_t canvasPixel(float coordinate);
     // Forgets selected items that left the document and brings the menus' enabled states
     // up to date; every command and event ends with it.
     void refreshMenus();

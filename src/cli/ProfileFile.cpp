@@ -37,28 +37,34 @@ std::vector<std::string_view> words(std::string_view line) {
 } // namespace
 
 std::shared_ptr<Profile> ProfileFile::read(FileSystem& files, const std::string& path) {
-    const std::string name = CliError::quoted(path);
-    const auto refuse = [&](const std::string& where, const std::string& what) {
-        return CliError("cannot read " + name + where + ": " + what, CliError::failure);
-    };
-    const std::string tooLarge =
-        "a profile file may not exceed " + std::to_string(maxBytes) + " bytes";
+    const CliError tooLarge("cannot read " + CliError::quoted(path) +
+                                ": a profile file may not exceed " + std::to_string(maxBytes) +
+                                " bytes",
+                            CliError::failure);
     // Asked first, so that a huge file is refused before anything is read.
     FileSystem::Status status;
     if (!files.status(path, status) && status.kind == FileSystem::Kind::Regular &&
         status.size > maxBytes) {
-        throw refuse("", tooLarge);
+        throw tooLarge;
     }
     std::vector<uint8_t> bytes;
     if (const std::error_code error = FileBytes::read(files, path, 0, bytes)) {
-        throw CliError("cannot open " + name + ": " + CliError::reason(error), CliError::failure);
+        throw CliError("cannot open " + CliError::quoted(path) + ": " + CliError::reason(error),
+                       CliError::failure);
     }
     if (bytes.size() > maxBytes) { // it grew since it was asked
-        throw refuse("", tooLarge);
+        throw tooLarge;
     }
 
+    return parse({reinterpret_cast<const char*>(bytes.data()), bytes.size()}, path);
+}
+
+std::shared_ptr<Profile> ProfileFile::parse(std::string_view text, const std::string& path) {
+    const std::string name = CliError::quoted(path);
+    const auto refuse = [&](const std::string& where, const std::string& what) {
+        return CliError("cannot read " + name + where + ": " + what, CliError::failure);
+    };
     auto profile = std::make_shared<Profile>();
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     size_t lineNumber = 0;
     for (size_t start = 0; start < text.size();) {
         const size_t end = std::min(text.find('\n', start), text.size());

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 class Profile;
 
@@ -23,5 +24,7 @@ constexpr int32_t minPoints = 3;
 // The profile of the file, or throws CliError naming the file (and the line) and what is
 // wrong with it.
 std::shared_ptr<Profile> read(FileSystem& files, const std::string& path);
+// The profile of a file's text; path names the file in messages.
+std::shared_ptr<Profile> parse(std::string_view text, const std::string& path);
 
 } // namespace ProfileFile

@@ -2,11 +2,13 @@
 
 #include "platform/Canvas.h"
 
-// A viewport canvas without pixels, for playing the editor without a screen where no
-// picture is wanted: it takes the size the window's layout gives it, so that everything
-// that projects onto it and picks from it works as on a real canvas, and draws nothing.
+// A canvas without pixels, for running the drawing code where no picture is wanted (the
+// editor played without a screen, benchmarks of the geometry, fuzzing): it has a size,
+// takes the one the window's layout gives it, so that everything that projects onto it and
+// picks from it works as on a real canvas, and draws nothing.
 class BlankCanvas : public Canvas {
 public:
+    explicit BlankCanvas(int width = 0, int height = 0) : width_(width), height_(height) {}
     int scaleWidth() const override { return width_; }
     int scaleHeight() const override { return height_; }
     void polygon(const std::vector<CanvasPoint>&) override {}
@@ -22,6 +24,6 @@ public:
     }
 
 private:
-    int width_ = 0;
-    int height_ = 0;
+    int width_;
+    int height_;
 };

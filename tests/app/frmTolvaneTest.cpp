@@ -114,6 +114,13 @@ TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
     EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::Crosshair);
 }
 
+TEST(frmTolvane, APositionFarOffTheCanvasCountsAsAMillionPixelsOff) {
+    Window w;
+    w.drag(3, 1, 3e9f, 0, -3e9f, 1e30f);
+    EXPECT_EQ(w.form.getViewSpecs(4).anchorX, -(1 << 20));
+    EXPECT_EQ(w.form.getViewSpecs(4).anchorY, 1 << 20);
+}
+
 TEST(frmTolvane, MoveHandlerGetsNoViewAfterALeftDragHandlerReturnedNone) {
     Window w;
     auto mode = std::make_unique<DragReturnsNone>();
