@@ -13,13 +13,6 @@ template <class Q, class P> bool boxesOverlap(const Q& q, const P& p) {
            q.zmin < p.zmax;
 }
 
-// Q has to be painted before P: their canvas boxes overlap, Q reaches behind P's nearest
-// depth, and the plane and edge tests agree that P lies in front of Q.
-template <class Box> bool mustPaintBefore(const Box& q, const Box& p) {
-    return boxesOverlap(q, p) && !q.face->IsAbove(*p.face) && !p.face->IsBelow(*q.face) &&
-           p.face->Obscures(*q.face);
-}
-
 // Cells per axis: about one box per cell, at most twice the square root of the count.
 int cellsAlong(double extent, std::vector<double>& sizes, size_t count) {
     const int most = static_cast<int>(2 * std::sqrt(static_cast<double>(count))) + 1;
@@ -33,6 +26,8 @@ int cellsAlong(double extent, std::vector<double>& sizes, size_t count) {
 }
 
 } // namespace
+
+FaceOrder::Sorter FaceOrder::sorterInUse = &FaceOrder::sort;
 
 FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
     Faces result;
@@ -67,6 +62,36 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
     return result;
 }
 
+bool FaceOrder::mustPaintBefore(const Item& q, const Item& p) const {
+    return boxesOverlap(q, p) && !onSideOf(q, p, true) && !onSideOf(p, q, false) &&
+           p.face->Obscures(*q.face);
+}
+
+bool FaceOrder::onSideOf(const Item& a, const Item& b, bool towardsViewer) const {
+    float nx = b.nx;
+    float ny = b.ny;
+    float nz = b.nz;
+    if (towardsViewer ? nz < 0 : nz > 0) {
+        nx = -nx;
+        ny = -ny;
+        nz = -nz;
+    }
+    if (b.cornerCount < 1) {
+        return true;
+    }
+    const Corner& o = corners_[b.firstCorner];
+    const Corner* v = corners_.data() + a.firstCorner;
+    for (const Corner* end = v + a.cornerCount; v != end; ++v) {
+        const auto s = static_cast<float>(static_cast<double>(v->x - o.x) * nx +
+                                          static_cast<double>(v->y - o.y) * ny +
+                                          static_cast<double>(v->z - o.z) * nz);
+        if (s < -0.01f) {
+            return false;
+        }
+    }
+    return true;
+}
+
 FaceOrder::FaceOrder(const Faces& faces) {
     for (const auto& face : faces) {
         if (face->IsCulled) {
@@ -75,6 +100,15 @@ FaceOrder::FaceOrder(const Faces& faces) {
         const auto index = static_cast<uint32_t>(items_.size());
         Item item{face.get(), 0, 0, 0, 0, 0, 0, index, index - 1, index + 1};
         face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
+        face->TransformedNormalVector(item.nx, item.ny, item.nz);
+        item.firstCorner = static_cast<uint32_t>(corners_.size());
+        const int32_t corners = face->getSolidContainer() != nullptr ? face->NumPts : 0;
+        item.cornerCount = static_cast<uint32_t>(std::max(corners, 0));
+        for (int corner = 1; corner <= corners; ++corner) {
+            Corner c{};
+            face->GetTransformedPoint(corner, c.x, c.y, c.z);
+            corners_.push_back(c);
+        }
         items_.push_back(item);
         owners_.push_back(face);
     }

@@ -224,7 +224,7 @@ void Solid3d::CheckVisibility(int32_t x1, int32_t y1, int32_t x2, int32_t y2) {
 }
 
 FaceList Solid3d::SortFaces() const {
-    return FaceOrder::sort(faces);
+    return FaceOrder::sorterInUse(faces);
 }
 
 FaceList Solid3d::paintOrder() const {

@@ -8,7 +8,7 @@
 // The painter's face order written the plain way: for every face emitted, scan all waiting
 // faces in list order for the first that must be painted before it. Quadratic, and the
 // reference the fast order must match face for face.
-inline FaceList literalSortFaces(const Solid3d& solid) {
+inline FaceList literalSortFaces(const FaceList& faces) {
     struct Item {
         std::shared_ptr<Face3d> face;
         float xmin, xmax, ymin, ymax, zmin, zmax;
@@ -19,13 +19,13 @@ inline FaceList literalSortFaces(const Solid3d& solid) {
                p.face->Obscures(*q.face);
     };
     FaceList result;
-    for (auto it = solid.faces.rbegin(); it != solid.faces.rend(); ++it) {
+    for (auto it = faces.rbegin(); it != faces.rend(); ++it) {
         if ((*it)->IsCulled) {
             result.push_back(*it);
         }
     }
     std::vector<Item> work;
-    for (const auto& face : solid.faces) {
+    for (const auto& face : faces) {
         if (!face->IsCulled) {
             Item item{face, 0, 0, 0, 0, 0, 0};
             face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
@@ -53,7 +53,11 @@ inline FaceList literalSortFaces(const Solid3d& solid) {
         result.push_back(work[head].face);
         ++head;
         moves = 0;
-        limit = solid.faces.size();
+        limit = faces.size();
     }
     return result;
+}
+
+inline FaceList literalSortFaces(const Solid3d& solid) {
+    return literalSortFaces(solid.faces);
 }
