@@ -11,6 +11,8 @@ class MacroFile : public UserSource {
 public:
     // Throws MacroSyntax::Error ("line N: ...") for a line that is not an action.
     explicit MacroFile(std::string_view text) : actions_(MacroSyntax::parseAll(text)) {}
+    explicit MacroFile(std::vector<MacroSyntax::NumberedAction> actions)
+        : actions_(std::move(actions)) {}
 
     std::optional<MacroAction> next(const Waiting& waiting) override;
     std::string where() const override;
