@@ -11,10 +11,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <vector>
 #include <string>
 #include <unistd.h>
 #include <variant>
+#include <vector>
 
 namespace {
 
