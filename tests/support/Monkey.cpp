@@ -128,6 +128,10 @@ void Monkey::plan() {
 }
 
 MacroAction Monkey::windowAction() {
+    // The editor's window has its size before anything else happens.
+    if (count_ == 1) {
+        return macro::Resize{between(600, 1600), between(400, 1000)};
+    }
     if (planned_.empty() && chance(3)) {
         plan();
     }
