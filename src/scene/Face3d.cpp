@@ -303,8 +303,45 @@ bool Face3d::Obscures(const Face3d& other) const {
     return PointInside(theirs.x, theirs.y);
 }
 
+bool Face3d::clearlyOutside(float x, float y) const {
+    if (!std::isfinite(x) || !std::isfinite(y)) {
+        return false;
+    }
+    float xmin = 0;
+    float xmax = 0;
+    float ymin = 0;
+    float ymax = 0;
+    for (int corner = 1; corner <= cornerCount(); ++corner) {
+        const Point4& t = record(corner).trans;
+        if (!std::isfinite(t.x) || !std::isfinite(t.y)) {
+            return false;
+        }
+        xmin = corner == 1 ? t.x : std::min(xmin, t.x);
+        xmax = corner == 1 ? t.x : std::max(xmax, t.x);
+        ymin = corner == 1 ? t.y : std::min(ymin, t.y);
+        ymax = corner == 1 ? t.y : std::max(ymax, t.y);
+    }
+    // Beside the box by at least its height seen from the point (and by the 0.01 below
+    // which the arc tangent calls a direction vertical), every corner lies within 45 degrees
+    // of one horizontal direction; above or below it by its width, of one vertical direction.
+    const float high = std::max(ymax - y, y - ymin);
+    const float wide = std::max(xmax - x, x - xmin);
+    const float left = xmin - x;
+    const float right = x - xmax;
+    const float below = ymin - y;
+    const float above = y - ymax;
+    return (left >= 0.01f && left >= high) || (right >= 0.01f && right >= high) ||
+           (below > 0 && below >= wide) || (above > 0 && above >= wide);
+}
+
 bool Face3d::PointInside(float x, float y) const {
     if (cornerCount() < 1) {
+        return false;
+    }
+    // The angles below add up to (almost exactly) zero for a point outside the polygon; far
+    // enough beside its box, where no two corners are half a turn apart as seen from the
+    // point, that needs no arc tangents.
+    if (clearlyOutside(x, y)) {
         return false;
     }
     const auto angleTo = [&](int corner) {

@@ -1,11 +1,15 @@
 #include "scene/Face3d.h"
 
+#include "geometry/Arctan.h"
+#include "geometry/Pi.h"
 #include "render/GDIRegion.h"
 #include "scene/Solid3d.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestSolids.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace {
 
@@ -194,4 +198,71 @@ TEST(Face3d, PointInsideCountsTheWindingAngle) {
     EXPECT_TRUE(square->PointInside(30, 30));
     EXPECT_FALSE(square->PointInside(5, 30));
     EXPECT_FALSE(square->PointInside(300, 300));
+}
+
+namespace {
+
+// The winding test written out in full, for every point: the sum of the angles the edges
+// turn through, seen from the point, as the arc tangent gives them.
+bool windingReference(const std::vector<std::pair<float, float>>& corners, float x, float y) {
+    const auto angleTo = [&](const std::pair<float, float>& c) {
+        double a = Arctan::ArcTan(c.second - y, c.first - x, true);
+        return a < 0 ? a + Pi::twoPi14 : a;
+    };
+    double previous = angleTo(corners.back());
+    double sum = 0;
+    for (const auto& corner : corners) {
+        const double a = angleTo(corner);
+        double d = a - previous;
+        if (d > Pi::pi14) {
+            d = d - Pi::twoPi14;
+        }
+        if (d < -Pi::pi14) {
+            d = d + Pi::twoPi14;
+        }
+        sum = sum + d;
+        previous = a;
+    }
+    return std::fabs(sum) > 0.001;
+}
+
+} // namespace
+
+// The test skips the arc tangents for points far beside a face; it must answer as the full
+// sum does everywhere: small faces, slivers, corners closer than 0.01 in x, points just
+// outside the box and on the 45-degree boundary of the shortcut.
+TEST(Face3d, PointInsideAnswersAsTheFullWindingSumForRandomFacesAndPoints) {
+    std::mt19937 random(7);
+    const auto uniform = [&](float low, float high) {
+        return std::uniform_real_distribution<float>(low, high)(random);
+    };
+    int outside = 0;
+    for (int round = 0; round < 20000; ++round) {
+        Solid3d solid;
+        const float scale = round % 3 == 0 ? 0.005f : round % 3 == 1 ? 1.0f : 300.0f;
+        const float stretch = round % 5 == 0 ? 0.001f : 1.0f;
+        std::vector<float> xyz;
+        std::vector<std::pair<float, float>> corners;
+        const int count = 3 + static_cast<int>(random() % 5);
+        for (int i = 0; i < count; ++i) {
+            const float cx = uniform(-1, 1) * scale;
+            const float cy = uniform(-1, 1) * scale * stretch;
+            xyz.insert(xyz.end(), {cx, cy, 0});
+            corners.emplace_back(cx, cy);
+        }
+        auto face = addFace(solid, xyz);
+        solid.Apply(canvasLayout());
+        for (int k = 0; k < 8; ++k) {
+            const auto& [cx, cy] = corners[random() % corners.size()];
+            // Near a corner, or along a diagonal through it where the shortcut's bounds lie.
+            const float dx = uniform(-3, 3) * scale;
+            const float x = cx + dx;
+            const float y = k % 2 == 0 ? cy + uniform(-3, 3) * scale : cy + (k % 4 == 1 ? dx : -dx);
+            const bool expected = windingReference(corners, x, y);
+            outside += expected ? 0 : 1;
+            ASSERT_EQ(face->PointInside(x, y), expected)
+                << "round " << round << " point " << x << ", " << y;
+        }
+    }
+    EXPECT_GT(outside, 1000); // the shortcut had work to do
 }
