@@ -3,10 +3,8 @@
 #include "geometry/CPoint3D.h"
 #include "geometry/M3Ops.h"
 #include "geometry/NumberText.h"
-#include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
 #include "modelling/ExtrusionSteps.h"
-#include "modelling/SurfaceControls.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "platform/Canvas.h"
 #include "platform/ModalHost.h"
@@ -34,7 +32,7 @@ Vector3D difference(const PointRecord& p, const PointRecord& q) {
 } // namespace
 
 frmExtrude::frmExtrude(ModalHost& dialogs, ColorChooser& colors, ExtrusionPreviewTarget& preview)
-    : dialogs_(dialogs), colors_(colors), preview_(preview) {
+    : surface(colors), dialogs_(dialogs), preview_(preview) {
     addControl("fraExtrusionLength", fraExtrusionLength);
     addControl("txtExtrusionLength", txtExtrusionLength);
     addControl("fraIncrements", fraIncrements);
@@ -52,24 +50,10 @@ frmExtrude::frmExtrude(ModalHost& dialogs, ColorChooser& colors, ExtrusionPrevie
     addControl("cmdMoveUpTrans", cmdMoveUpTrans, [this] { cmdMoveUpTrans_Click(); });
     addControl("cmdMoveDownTrans", cmdMoveDownTrans, [this] { cmdMoveDownTrans_Click(); });
     addControl("fraSurface", fraSurface);
-    addControl("useAmbient", useAmbient, [this] { updateSurfaceControls(); });
-    addControl("lblAmbColor", lblAmbColor);
-    addControl("picAmbColor", picAmbColor);
-    addControl("cmdColorSelect", cmdColorSelect, [this] { cmdColorSelect_Click(); });
-    addControl("useDiffuse", useDiffuse, [this] { updateSurfaceControls(); });
-    addControl("lblDifColor", lblDifColor);
-    addControl("picDifColor", picDifColor);
-    addControl("cmdColorSelect2", cmdColorSelect2, [this] { cmdColorSelect2_Click(); });
-    addControl("UseSpecularK", UseSpecularK, [this] { updateSurfaceControls(); });
-    addControl("lblReflectionLeast", lblReflectionLeast);
-    addControl("lblReflection", lblReflection);
-    addControl("lblReflectionMost", lblReflectionMost);
-    addControl("HScrollSpecK", HScrollSpecK, [this] { HScrollSpecK_Change(); });
-    addControl("useSpecularN", useSpecularN, [this] { updateSurfaceControls(); });
-    addControl("lblIntensityLeast", lblIntensityLeast);
-    addControl("lblIntensity", lblIntensity);
-    addControl("lblIntensityMost", lblIntensityMost);
-    addControl("HScrollSpecN", HScrollSpecN, [this] { HScrollSpecN_Change(); });
+    surface.addControls(
+        [this](const std::string& name, auto& state, std::function<void()> handler) {
+            addControl(name, state, std::move(handler));
+        });
     addControl("mnuExtrude", mnuExtrude, [this] { mnuExtrude_Click(); });
     addControl("mnuCancel", mnuCancel, [this] { mnuCancel_Click(); });
     addControl("mnuPreview", mnuPreview, [this] { mnuPreview_Click(); });
@@ -77,12 +61,7 @@ frmExtrude::frmExtrude(ModalHost& dialogs, ColorChooser& colors, ExtrusionPrevie
 }
 
 void frmExtrude::Form_Load() {
-    HScrollSpecK = SurfaceControls::specularScale();
-    HScrollSpecN = SurfaceControls::specularScale();
-    // Mid grey, so that choosing "Use" without a colour keeps the default coefficients.
-    picAmbColor.BackColor = PackedColor::pack(128, 128, 128);
-    picDifColor.BackColor = PackedColor::pack(128, 128, 128);
-    updateSurfaceControls();
+    surface.reset();
 }
 
 void frmExtrude::initialize(const std::shared_ptr<Profile>& profile) {
@@ -198,24 +177,7 @@ void frmExtrude::mnuExtrude_Click() {
     result_->Transform(chkCapEnds.Value);
 
     // Unused surface groups keep the middle of their range.
-    using SurfaceControls::coefficient;
-    const PackedColor ambient = PackedColor::split(picAmbColor.BackColor);
-    const PackedColor diffuse = PackedColor::split(picDifColor.BackColor);
-    if (useAmbient.Value) {
-        result_->SetAmbientCoefficients(coefficient(ambient.red), coefficient(ambient.green),
-                                        coefficient(ambient.blue));
-    } else {
-        result_->SetAmbientCoefficients(0.5f, 0.5f, 0.5f);
-    }
-    if (useDiffuse.Value) {
-        result_->SetDiffuseCoefficients(coefficient(diffuse.red), coefficient(diffuse.green),
-                                        coefficient(diffuse.blue));
-    } else {
-        result_->SetDiffuseCoefficients(0.5f, 0.5f, 0.5f);
-    }
-    result_->setSpecularK(UseSpecularK.Value ? static_cast<float>(HScrollSpecK.Value) / 100.0f
-                                             : 0.5f);
-    result_->setSpecularN(useSpecularN.Value ? static_cast<float>(HScrollSpecN.Value) : 50.0f);
+    surface.applyTo(*result_, true);
     close();
 }
 
@@ -295,37 +257,4 @@ void frmExtrude::cmdMoveUpTrans_Click() {
 
 void frmExtrude::cmdMoveDownTrans_Click() {
     moveSelectedEntry(1);
-}
-
-void frmExtrude::cmdColorSelect_Click() {
-    SurfaceControls::chooseColor(colors_, picAmbColor);
-}
-
-void frmExtrude::cmdColorSelect2_Click() {
-    SurfaceControls::chooseColor(colors_, picDifColor);
-}
-
-void frmExtrude::HScrollSpecK_Change() {
-    lblReflection.Caption = SurfaceControls::reflectionCaption(HScrollSpecK.Value);
-}
-
-void frmExtrude::HScrollSpecN_Change() {
-    lblIntensity.Caption = SurfaceControls::intensityCaption(std::to_string(HScrollSpecN.Value));
-}
-
-void frmExtrude::updateSurfaceControls() {
-    lblAmbColor.Enabled = useAmbient.Value;
-    picAmbColor.Enabled = useAmbient.Value;
-    cmdColorSelect.Enabled = useAmbient.Value;
-    lblDifColor.Enabled = useDiffuse.Value;
-    picDifColor.Enabled = useDiffuse.Value;
-    cmdColorSelect2.Enabled = useDiffuse.Value;
-    for (LabelState* label : {&lblReflectionLeast, &lblReflection, &lblReflectionMost}) {
-        label->Enabled = UseSpecularK.Value;
-    }
-    HScrollSpecK.Enabled = UseSpecularK.Value;
-    for (LabelState* label : {&lblIntensityLeast, &lblIntensity, &lblIntensityMost}) {
-        label->Enabled = useSpecularN.Value;
-    }
-    HScrollSpecN.Enabled = useSpecularN.Value;
 }

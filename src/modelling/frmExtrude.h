@@ -2,6 +2,7 @@
 
 #include "geometry/Point4.h"
 #include "geometry/Vector3D.h"
+#include "modelling/SurfaceGroup.h"
 #include "platform/ModalDialog.h"
 #include "scene/Vector3DDrawer.h"
 
@@ -41,24 +42,7 @@ public:
     ButtonState cmdMoveDownTrans{"Down"};
 
     LabelState fraSurface{"Surface Properties:"};
-    CheckBoxState useAmbient{.Caption = "Use Ambient"};
-    LabelState lblAmbColor{"Ambient Color:"};
-    SwatchState picAmbColor;
-    ButtonState cmdColorSelect{"Select"};
-    CheckBoxState useDiffuse{.Caption = "Use Diffuse"};
-    LabelState lblDifColor{"Diffuse Color:"};
-    SwatchState picDifColor;
-    ButtonState cmdColorSelect2{"Select"};
-    CheckBoxState UseSpecularK{.Caption = "Use Specular Coefficient"};
-    LabelState lblReflectionLeast{"Least:"};
-    LabelState lblReflection{"Reflection:"};
-    LabelState lblReflectionMost{"Most"};
-    ScrollBarState HScrollSpecK;
-    CheckBoxState useSpecularN{.Caption = "Use Specular Intensity"};
-    LabelState lblIntensityLeast{"Least:"};
-    LabelState lblIntensity{"Intensity:"};
-    LabelState lblIntensityMost{"Most"};
-    ScrollBarState HScrollSpecN;
+    SurfaceGroup surface;
 
     ButtonState mnuExtrude{"&Extrude"};
     ButtonState mnuCancel{"&Cancel"};
@@ -85,14 +69,9 @@ public:
     void cmdRemoveTrans_Click();
     void cmdMoveUpTrans_Click();
     void cmdMoveDownTrans_Click();
-    void cmdColorSelect_Click();
-    void cmdColorSelect2_Click();
-    void HScrollSpecK_Change();
-    void HScrollSpecN_Change();
 
 private:
     void Form_Load();
-    void updateSurfaceControls();
     // Reports bad input in a text box, which is emptied and focused.
     void refuse(TextBoxState& box, const std::string& message);
     // The profile's points as the sweep takes them for the extrusion vector E.
@@ -102,7 +81,6 @@ private:
     void moveSelectedEntry(int step);
 
     ModalHost& dialogs_;
-    ColorChooser& colors_;
     ExtrusionPreviewTarget& preview_;
     Vector3DDrawer arrow_;
     std::shared_ptr<Profile> profile_;

@@ -77,8 +77,9 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
       cmdColorSelect_(new QPushButton(this)), useDiffuse_(new QCheckBox(this)),
       lblDifColor_(new QLabel(this)), picDifColor_(new QFrame(this)),
       cmdColorSelect2_(new QPushButton(this)), UseSpecularK_(new QCheckBox(this)),
-      HScrollSpecK_(newScrollBar(form.HScrollSpecK, this)), useSpecularN_(new QCheckBox(this)),
-      HScrollSpecN_(newScrollBar(form.HScrollSpecN, this)) {
+      HScrollSpecK_(newScrollBar(form.surface.HScrollSpecK, this)),
+      useSpecularN_(new QCheckBox(this)),
+      HScrollSpecN_(newScrollBar(form.surface.HScrollSpecN, this)) {
     setWindowTitle(QString::fromStdString(form_.caption()));
     std::set<QChar> taken;
     const auto caption = [&taken](const std::string& text) { return withAccessKey(text, taken); };
@@ -178,10 +179,12 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
         surface->addWidget(select, row, 3);
         ++row;
     };
-    colorRow(useAmbient_, form_.useAmbient, "useAmbient", lblAmbColor_, form_.lblAmbColor,
-             picAmbColor_, cmdColorSelect_, form_.cmdColorSelect, "cmdColorSelect");
-    colorRow(useDiffuse_, form_.useDiffuse, "useDiffuse", lblDifColor_, form_.lblDifColor,
-             picDifColor_, cmdColorSelect2_, form_.cmdColorSelect2, "cmdColorSelect2");
+    colorRow(useAmbient_, form_.surface.useAmbient, "useAmbient", lblAmbColor_,
+             form_.surface.lblAmbColor, picAmbColor_, cmdColorSelect_, form_.surface.cmdColorSelect,
+             "cmdColorSelect");
+    colorRow(useDiffuse_, form_.surface.useDiffuse, "useDiffuse", lblDifColor_,
+             form_.surface.lblDifColor, picDifColor_, cmdColorSelect2_,
+             form_.surface.cmdColorSelect2, "cmdColorSelect2");
     const auto scaleRows = [&](QCheckBox* use, const CheckBoxState& useState, const char* useName,
                                std::array<QLabel*, 3>& labels, QScrollBar* bar,
                                const char* barName) {
@@ -204,10 +207,10 @@ frmExtrudeView::frmExtrudeView(frmExtrude& form, QWidget* parent)
             act([this, barName, value] { form_.moveScrollBar(barName, value); });
         });
     };
-    scaleRows(UseSpecularK_, form_.UseSpecularK, "UseSpecularK", reflectionLabels_, HScrollSpecK_,
-              "HScrollSpecK");
-    scaleRows(useSpecularN_, form_.useSpecularN, "useSpecularN", intensityLabels_, HScrollSpecN_,
-              "HScrollSpecN");
+    scaleRows(UseSpecularK_, form_.surface.UseSpecularK, "UseSpecularK", reflectionLabels_,
+              HScrollSpecK_, "HScrollSpecK");
+    scaleRows(useSpecularN_, form_.surface.useSpecularN, "useSpecularN", intensityLabels_,
+              HScrollSpecN_, "HScrollSpecN");
     surface->setColumnMinimumWidth(0, 16);
 
     auto* left = new QVBoxLayout;
@@ -281,14 +284,14 @@ void frmExtrudeView::showState() {
     }
     List1_->setCurrentRow(form_.List1.ListIndex);
 
-    useAmbient_->setChecked(form_.useAmbient.Value);
-    lblAmbColor_->setEnabled(form_.lblAmbColor.Enabled);
-    showColor(*picAmbColor_, form_.picAmbColor);
-    cmdColorSelect_->setEnabled(form_.cmdColorSelect.Enabled);
-    useDiffuse_->setChecked(form_.useDiffuse.Value);
-    lblDifColor_->setEnabled(form_.lblDifColor.Enabled);
-    showColor(*picDifColor_, form_.picDifColor);
-    cmdColorSelect2_->setEnabled(form_.cmdColorSelect2.Enabled);
+    useAmbient_->setChecked(form_.surface.useAmbient.Value);
+    lblAmbColor_->setEnabled(form_.surface.lblAmbColor.Enabled);
+    showColor(*picAmbColor_, form_.surface.picAmbColor);
+    cmdColorSelect_->setEnabled(form_.surface.cmdColorSelect.Enabled);
+    useDiffuse_->setChecked(form_.surface.useDiffuse.Value);
+    lblDifColor_->setEnabled(form_.surface.lblDifColor.Enabled);
+    showColor(*picDifColor_, form_.surface.picDifColor);
+    cmdColorSelect2_->setEnabled(form_.surface.cmdColorSelect2.Enabled);
 
     const auto showScale = [](QCheckBox& use, const CheckBoxState& useState,
                               const std::array<QLabel*, 3>& labels,
@@ -302,10 +305,12 @@ void frmExtrudeView::showState() {
         bar.setValue(barState.Value);
         bar.setEnabled(barState.Enabled);
     };
-    showScale(*UseSpecularK_, form_.UseSpecularK, reflectionLabels_,
-              {&form_.lblReflectionLeast, &form_.lblReflection, &form_.lblReflectionMost},
-              *HScrollSpecK_, form_.HScrollSpecK);
-    showScale(*useSpecularN_, form_.useSpecularN, intensityLabels_,
-              {&form_.lblIntensityLeast, &form_.lblIntensity, &form_.lblIntensityMost},
-              *HScrollSpecN_, form_.HScrollSpecN);
+    showScale(*UseSpecularK_, form_.surface.UseSpecularK, reflectionLabels_,
+              {&form_.surface.lblReflectionLeast, &form_.surface.lblReflection,
+               &form_.surface.lblReflectionMost},
+              *HScrollSpecK_, form_.surface.HScrollSpecK);
+    showScale(*useSpecularN_, form_.surface.useSpecularN, intensityLabels_,
+              {&form_.surface.lblIntensityLeast, &form_.surface.lblIntensity,
+               &form_.surface.lblIntensityMost},
+              *HScrollSpecN_, form_.surface.HScrollSpecN);
 }

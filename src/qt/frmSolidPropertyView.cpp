@@ -16,8 +16,8 @@
 frmSolidPropertyView::frmSolidPropertyView(frmSolidProperty& form, QWidget* parent)
     : ModalDialogView(form, "mnuCancel", parent), form_(form),
       picAmbColor_(newSwatch("picAmbColor", this)), picDifColor_(newSwatch("picDifColor", this)),
-      HScrollSpecK_(newScrollBar("HScrollSpecK", form.HScrollSpecK, this)),
-      HScrollSpecN_(newScrollBar("HScrollSpecN", form.HScrollSpecN, this)) {
+      HScrollSpecK_(newScrollBar("HScrollSpecK", form.surface.HScrollSpecK, this)),
+      HScrollSpecN_(newScrollBar("HScrollSpecN", form.surface.HScrollSpecN, this)) {
     auto* grid = new QGridLayout;
     // The groups' controls stand indented under their check boxes.
     grid->setColumnMinimumWidth(0, 16);
@@ -70,16 +70,18 @@ frmSolidPropertyView::frmSolidPropertyView(frmSolidProperty& form, QWidget* pare
         });
     };
 
-    check(form_.useAmbient, "useAmbient", 'b');
-    colorRow(form_.lblAmbColor, 'm', picAmbColor_, form_.cmdColorSelect, "cmdColorSelect");
-    check(form_.useDiffuse, "useDiffuse", 'D');
-    colorRow(form_.lblDifColor, 'u', picDifColor_, form_.cmdColorSelect2, "cmdColorSelect2");
-    check(form_.UseSpecularK, "UseSpecularK", 'f');
-    lblReflection_ = scaleRows(form_.lblReflectionLeast, form_.lblReflection,
-                               form_.lblReflectionMost, HScrollSpecK_, "HScrollSpecK");
-    check(form_.useSpecularN, "useSpecularN", 'I');
-    lblIntensity_ = scaleRows(form_.lblIntensityLeast, form_.lblIntensity, form_.lblIntensityMost,
-                              HScrollSpecN_, "HScrollSpecN");
+    check(form_.surface.useAmbient, "useAmbient", 'b');
+    colorRow(form_.surface.lblAmbColor, 'm', picAmbColor_, form_.surface.cmdColorSelect,
+             "cmdColorSelect");
+    check(form_.surface.useDiffuse, "useDiffuse", 'D');
+    colorRow(form_.surface.lblDifColor, 'u', picDifColor_, form_.surface.cmdColorSelect2,
+             "cmdColorSelect2");
+    check(form_.surface.UseSpecularK, "UseSpecularK", 'f');
+    lblReflection_ = scaleRows(form_.surface.lblReflectionLeast, form_.surface.lblReflection,
+                               form_.surface.lblReflectionMost, HScrollSpecK_, "HScrollSpecK");
+    check(form_.surface.useSpecularN, "useSpecularN", 'I');
+    lblIntensity_ = scaleRows(form_.surface.lblIntensityLeast, form_.surface.lblIntensity,
+                              form_.surface.lblIntensityMost, HScrollSpecN_, "HScrollSpecN");
     check(form_.OrientSwitch, "OrientSwitch", 'w');
 
     auto* layout = new QVBoxLayout(this);
@@ -103,13 +105,13 @@ void frmSolidPropertyView::refresh() {
     for (const Label& label : labels_) {
         label.label->setEnabled(label.state->Enabled);
     }
-    lblReflection_->setText(QString::fromStdString(form_.lblReflection.Caption));
-    lblIntensity_->setText(QString::fromStdString(form_.lblIntensity.Caption));
+    lblReflection_->setText(QString::fromStdString(form_.surface.lblReflection.Caption));
+    lblIntensity_->setText(QString::fromStdString(form_.surface.lblIntensity.Caption));
     for (const Button& button : buttons_) {
         button.button->setEnabled(button.state->Enabled);
     }
-    showSwatch(*picAmbColor_, form_.picAmbColor);
-    showSwatch(*picDifColor_, form_.picDifColor);
-    showScrollBar(*HScrollSpecK_, form_.HScrollSpecK);
-    showScrollBar(*HScrollSpecN_, form_.HScrollSpecN);
+    showSwatch(*picAmbColor_, form_.surface.picAmbColor);
+    showSwatch(*picDifColor_, form_.surface.picDifColor);
+    showScrollBar(*HScrollSpecK_, form_.surface.HScrollSpecK);
+    showScrollBar(*HScrollSpecN_, form_.surface.HScrollSpecN);
 }

@@ -91,11 +91,11 @@ TEST_F(frmExtrudeTest, StartsWithTheDefaultControls) {
     EXPECT_TRUE(form.optExtrude[0].Value);
     EXPECT_FALSE(form.optExtrude[1].Value);
     EXPECT_TRUE(form.chkCapEnds.Value);
-    EXPECT_EQ(form.HScrollSpecN.LargeChange, 5);
-    EXPECT_FALSE(form.picAmbColor.Enabled);
-    EXPECT_FALSE(form.cmdColorSelect2.Enabled);
-    EXPECT_FALSE(form.lblReflectionMost.Enabled);
-    EXPECT_FALSE(form.HScrollSpecN.Enabled);
+    EXPECT_EQ(form.surface.HScrollSpecN.LargeChange, 5);
+    EXPECT_FALSE(form.surface.picAmbColor.Enabled);
+    EXPECT_FALSE(form.surface.cmdColorSelect2.Enabled);
+    EXPECT_FALSE(form.surface.lblReflectionMost.Enabled);
+    EXPECT_FALSE(form.surface.HScrollSpecN.Enabled);
     EXPECT_TRUE(prompts.messages().empty());
 }
 
@@ -172,26 +172,26 @@ TEST_F(frmExtrudeTest, ARotationEntryTwistsEveryStepAboutTheWorldAxis) {
 
 TEST_F(frmExtrudeTest, TheSurfaceGroupsSetTheCoefficients) {
     form.setChecked("useAmbient", true);
-    EXPECT_TRUE(form.picAmbColor.Enabled);
-    EXPECT_TRUE(form.cmdColorSelect.Enabled);
-    EXPECT_FALSE(form.cmdColorSelect2.Enabled);
+    EXPECT_TRUE(form.surface.picAmbColor.Enabled);
+    EXPECT_TRUE(form.surface.cmdColorSelect.Enabled);
+    EXPECT_FALSE(form.surface.cmdColorSelect2.Enabled);
     colors.queueAnswer(PackedColor::pack(64, 0, 255));
     form.press("cmdColorSelect");
     form.press("cmdColorSelect2"); // cancelled: the swatch keeps its colour
-    const int32_t diffuseBefore = form.picDifColor.BackColor;
+    const int32_t diffuseBefore = form.surface.picDifColor.BackColor;
 
     form.moveScrollBar("HScrollSpecK", 37);
-    EXPECT_EQ(form.lblReflection.Caption, "Reflection: 37%");
+    EXPECT_EQ(form.surface.lblReflection.Caption, "Reflection: 37%");
     form.moveScrollBar("HScrollSpecN", 12);
-    EXPECT_EQ(form.lblIntensity.Caption, "Intensity: 12");
+    EXPECT_EQ(form.surface.lblIntensity.Caption, "Intensity: 12");
     form.setChecked("UseSpecularK", true);
-    EXPECT_TRUE(form.lblReflectionLeast.Enabled);
-    EXPECT_TRUE(form.HScrollSpecK.Enabled);
-    EXPECT_FALSE(form.HScrollSpecN.Enabled);
+    EXPECT_TRUE(form.surface.lblReflectionLeast.Enabled);
+    EXPECT_TRUE(form.surface.HScrollSpecK.Enabled);
+    EXPECT_FALSE(form.surface.HScrollSpecN.Enabled);
 
     const auto solid = extrude({});
     ASSERT_TRUE(solid);
-    EXPECT_EQ(form.picDifColor.BackColor, diffuseBefore);
+    EXPECT_EQ(form.surface.picDifColor.BackColor, diffuseBefore);
     EXPECT_EQ(solid->faces[0]->AmbientKr, 0.25f);
     EXPECT_EQ(solid->faces[0]->AmbientKb, 255.0f / 256.0f);
     EXPECT_EQ(solid->faces[0]->DiffuseKr, 0.5f);

@@ -30,24 +30,24 @@ struct frmSolidPropertyOnACube : ::testing::Test {
 } // namespace
 
 TEST_F(frmSolidPropertyOnACube, AGroupIsEnabledWhileItsBoxIsTicked) {
-    EXPECT_FALSE(form.picAmbColor.Enabled);
-    EXPECT_FALSE(form.cmdColorSelect2.Enabled);
-    EXPECT_FALSE(form.lblReflection.Enabled);
-    EXPECT_FALSE(form.HScrollSpecN.Enabled);
+    EXPECT_FALSE(form.surface.picAmbColor.Enabled);
+    EXPECT_FALSE(form.surface.cmdColorSelect2.Enabled);
+    EXPECT_FALSE(form.surface.lblReflection.Enabled);
+    EXPECT_FALSE(form.surface.HScrollSpecN.Enabled);
 
     form.setChecked("useAmbient", true);
     form.setChecked("useSpecularN", true);
-    EXPECT_TRUE(form.lblAmbColor.Enabled);
-    EXPECT_TRUE(form.picAmbColor.Enabled);
-    EXPECT_TRUE(form.cmdColorSelect.Enabled);
-    EXPECT_FALSE(form.picDifColor.Enabled);
-    EXPECT_FALSE(form.HScrollSpecK.Enabled);
-    EXPECT_TRUE(form.lblIntensityLeast.Enabled);
-    EXPECT_TRUE(form.lblIntensity.Enabled);
-    EXPECT_TRUE(form.HScrollSpecN.Enabled);
+    EXPECT_TRUE(form.surface.lblAmbColor.Enabled);
+    EXPECT_TRUE(form.surface.picAmbColor.Enabled);
+    EXPECT_TRUE(form.surface.cmdColorSelect.Enabled);
+    EXPECT_FALSE(form.surface.picDifColor.Enabled);
+    EXPECT_FALSE(form.surface.HScrollSpecK.Enabled);
+    EXPECT_TRUE(form.surface.lblIntensityLeast.Enabled);
+    EXPECT_TRUE(form.surface.lblIntensity.Enabled);
+    EXPECT_TRUE(form.surface.HScrollSpecN.Enabled);
 
     form.setChecked("useAmbient", false);
-    EXPECT_FALSE(form.cmdColorSelect.Enabled);
+    EXPECT_FALSE(form.surface.cmdColorSelect.Enabled);
 }
 
 TEST_F(frmSolidPropertyOnACube, AcceptWritesTheTickedGroupsToEveryFace) {
@@ -58,9 +58,9 @@ TEST_F(frmSolidPropertyOnACube, AcceptWritesTheTickedGroupsToEveryFace) {
     form.press("cmdColorSelect2");
     form.setChecked("UseSpecularK", true);
     form.moveScrollBar("HScrollSpecK", 40);
-    EXPECT_EQ(form.lblReflection.Caption, "Reflection: 40%");
+    EXPECT_EQ(form.surface.lblReflection.Caption, "Reflection: 40%");
     form.moveScrollBar("HScrollSpecN", 90); // its group stays unticked
-    EXPECT_EQ(form.lblIntensity.Caption, "Intensity: 90");
+    EXPECT_EQ(form.surface.lblIntensity.Caption, "Intensity: 90");
     form.press("mnuAccept");
     EXPECT_TRUE(form.isClosed());
     for (size_t i : {size_t{0}, size_t{5}}) {
