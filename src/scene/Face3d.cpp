@@ -1,13 +1,12 @@
 #include "scene/Face3d.h"
 
-#include "geometry/Arctan.h"
 #include "geometry/M3Ops.h"
-#include "geometry/Pi.h"
 #include "geometry/Rounding.h"
 #include "platform/Canvas.h"
 #include "render/CanvasStateGuard.h"
 #include "render/GDIRegion.h"
 #include "render/Shading.h"
+#include "scene/FaceRelations.h"
 #include "scene/Solid3d.h"
 
 #include <algorithm>
@@ -15,29 +14,22 @@
 
 namespace {
 
-// Where two canvas edges cross, and each edge's depth there.
-bool intersectEdges(const Point4& a1, const Point4& a2, const Point4& b1, const Point4& b2,
-                    float& zA, float& zB) {
-    const float dx1 = a2.x - a1.x;
-    const float dy1 = a2.y - a1.y;
-    const float dx2 = b2.x - b1.x;
-    const float dy2 = b2.y - b1.y;
-    const float det = dy1 * dx2 - dy2 * dx1;
-    if (det > -0.01f && det < 0.01f) {
-        return false; // parallel, or too nearly so to tell
+// A face's transformed corners, read through its solid's point records.
+class TransformedCorners {
+public:
+    explicit TransformedCorners(const Face3d& face)
+        : solid_(face.getSolidContainer()), indices_(face.getIndices().data()),
+          count_(solid_ != nullptr ? face.NumPts : 0) {}
+    int size() const { return count_; }
+    const Point4& operator[](int corner) const {
+        return solid_->getPointRecord(indices_[corner]).trans;
     }
-    const float u = (dy1 * (a1.x - b1.x) - dx1 * (a1.y - b1.y)) / det;
-    if (!(u >= 0 && u <= 1)) {
-        return false;
-    }
-    const float s = (dy2 * (a1.x - b1.x) - dx2 * (a1.y - b1.y)) / det;
-    if (!(s >= 0 && s <= 1)) {
-        return false;
-    }
-    zA = a1.z + s * (a2.z - a1.z);
-    zB = b1.z + u * (b2.z - b1.z);
-    return true;
-}
+
+private:
+    const Solid3d* solid_;
+    const int32_t* indices_;
+    int count_;
+};
 
 void normalOf(const Point4& p1, const Point4& p2, const Point4& p3, float& x, float& y, float& z) {
     M3Ops::crossProduct(x, y, z, p2.x - p1.x, p2.y - p1.y, p2.z - p1.z, p3.x - p2.x, p3.y - p2.y,
@@ -243,25 +235,8 @@ bool Face3d::isOnSideOf(const Face3d& other, bool towardsViewer) const {
     float ny;
     float nz;
     other.TransformedNormalVector(nx, ny, nz);
-    if (towardsViewer ? nz < 0 : nz > 0) {
-        nx = -nx;
-        ny = -ny;
-        nz = -nz;
-    }
-    if (other.cornerCount() < 1) {
-        return true;
-    }
-    const Point4& o = other.record(1).trans;
-    for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& v = record(corner).trans;
-        const auto s = static_cast<float>(static_cast<double>(v.x - o.x) * nx +
-                                          static_cast<double>(v.y - o.y) * ny +
-                                          static_cast<double>(v.z - o.z) * nz);
-        if (s < -0.01f) {
-            return false;
-        }
-    }
-    return true;
+    return FaceRelations::onSideOf(TransformedCorners(*this), TransformedCorners(other), nx, ny, nz,
+                                   towardsViewer);
 }
 
 bool Face3d::IsAbove(const Face3d& other) const {
@@ -273,100 +248,11 @@ bool Face3d::IsBelow(const Face3d& other) const {
 }
 
 bool Face3d::Obscures(const Face3d& other) const {
-    if (cornerCount() < 1 || other.cornerCount() < 1) {
-        return false;
-    }
-    for (int i = 1; i <= cornerCount(); ++i) {
-        const Point4& a1 = record(i == 1 ? cornerCount() : i - 1).trans;
-        const Point4& a2 = record(i).trans;
-        for (int j = 1; j <= other.cornerCount(); ++j) {
-            const Point4& b1 = other.record(j == 1 ? other.cornerCount() : j - 1).trans;
-            const Point4& b2 = other.record(j).trans;
-            float zThis;
-            float zOther;
-            if (!intersectEdges(a1, a2, b1, b2, zThis, zOther)) {
-                continue;
-            }
-            if (zThis - zOther > 0.01f) {
-                return true;
-            }
-            if (zOther - zThis > 0.01f) {
-                return false;
-            }
-        }
-    }
-    const Point4& mine = record(1).trans;
-    if (other.PointInside(mine.x, mine.y)) {
-        return true;
-    }
-    const Point4& theirs = other.record(1).trans;
-    return PointInside(theirs.x, theirs.y);
-}
-
-bool Face3d::clearlyOutside(float x, float y) const {
-    if (!std::isfinite(x) || !std::isfinite(y)) {
-        return false;
-    }
-    float xmin = 0;
-    float xmax = 0;
-    float ymin = 0;
-    float ymax = 0;
-    for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& t = record(corner).trans;
-        if (!std::isfinite(t.x) || !std::isfinite(t.y)) {
-            return false;
-        }
-        xmin = corner == 1 ? t.x : std::min(xmin, t.x);
-        xmax = corner == 1 ? t.x : std::max(xmax, t.x);
-        ymin = corner == 1 ? t.y : std::min(ymin, t.y);
-        ymax = corner == 1 ? t.y : std::max(ymax, t.y);
-    }
-    // Beside the box by at least its height seen from the point (and by the 0.01 below
-    // which the arc tangent calls a direction vertical), every corner lies within 45 degrees
-    // of one horizontal direction; above or below it by its width, of one vertical direction.
-    const float high = std::max(ymax - y, y - ymin);
-    const float wide = std::max(xmax - x, x - xmin);
-    const float left = xmin - x;
-    const float right = x - xmax;
-    const float below = ymin - y;
-    const float above = y - ymax;
-    return (left >= 0.01f && left >= high) || (right >= 0.01f && right >= high) ||
-           (below > 0 && below >= wide) || (above > 0 && above >= wide);
+    return FaceRelations::obscures(TransformedCorners(*this), TransformedCorners(other));
 }
 
 bool Face3d::PointInside(float x, float y) const {
-    if (cornerCount() < 1) {
-        return false;
-    }
-    // The angles below add up to (almost exactly) zero for a point outside the polygon; far
-    // enough beside its box, where no two corners are half a turn apart as seen from the
-    // point, that needs no arc tangents.
-    if (clearlyOutside(x, y)) {
-        return false;
-    }
-    const auto angleTo = [&](int corner) {
-        const Point4& t = record(corner).trans;
-        double a = Arctan::ArcTan(t.y - y, t.x - x, true);
-        if (a < 0) {
-            a = a + Pi::twoPi14;
-        }
-        return a;
-    };
-    double previous = angleTo(cornerCount());
-    double sum = 0;
-    for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const double a = angleTo(corner);
-        double d = a - previous;
-        if (d > Pi::pi14) {
-            d = d - Pi::twoPi14;
-        }
-        if (d < -Pi::pi14) {
-            d = d + Pi::twoPi14;
-        }
-        sum = sum + d;
-        previous = a;
-    }
-    return std::fabs(sum) > 0.001;
+    return FaceRelations::pointInside(TransformedCorners(*this), x, y);
 }
 
 std::vector<CanvasPoint> Face3d::canvasPoints() const {

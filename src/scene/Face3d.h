@@ -100,8 +100,6 @@ private:
     const PointRecord& record(int corner) const;
     template <class Step> void transformCorners(Step step);
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
-    // Whether the point lies so far beside the corners' box that it is surely outside.
-    bool clearlyOutside(float x, float y) const;
     // The corners' transformed x and y, rounded to whole pixels.
     std::vector<CanvasPoint> canvasPoints() const;
     void paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,

@@ -1,7 +1,10 @@
 #include "scene/FaceOrder.h"
 
+#include "scene/FaceRelations.h"
+
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -51,9 +54,9 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
             continue;
         }
         // After limit moves without progress a cycle is broken by painting P anyway.
-        result.push_back(order.owners_[p]);
+        result.push_back(faces[order.listed_[p]]);
         order.unlink(p);
-        order.items_[p].waiting = false;
+        order.marks_[p] = emitted;
         --order.waitingCount_;
         order.startRun();
         moves = 0;
@@ -62,57 +65,46 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
     return result;
 }
 
-bool FaceOrder::mustPaintBefore(const Item& q, const Item& p) const {
-    return boxesOverlap(q, p) && !onSideOf(q, p, true) && !onSideOf(p, q, false) &&
-           p.face->Obscures(*q.face);
+FaceOrder::Corners FaceOrder::cornersOf(const Item& item) const {
+    return Corners{corners_.data() + item.firstCorner, item.cornerCount};
 }
 
-bool FaceOrder::onSideOf(const Item& a, const Item& b, bool towardsViewer) const {
-    float nx = b.nx;
-    float ny = b.ny;
-    float nz = b.nz;
-    if (towardsViewer ? nz < 0 : nz > 0) {
-        nx = -nx;
-        ny = -ny;
-        nz = -nz;
+bool FaceOrder::mustPaintBefore(const Item& q, const Item& p) const {
+    if (!boxesOverlap(q, p)) {
+        return false;
     }
-    if (b.cornerCount < 1) {
-        return true;
-    }
-    const Corner& o = corners_[b.firstCorner];
-    const Corner* v = corners_.data() + a.firstCorner;
-    for (const Corner* end = v + a.cornerCount; v != end; ++v) {
-        const auto s = static_cast<float>(static_cast<double>(v->x - o.x) * nx +
-                                          static_cast<double>(v->y - o.y) * ny +
-                                          static_cast<double>(v->z - o.z) * nz);
-        if (s < -0.01f) {
-            return false;
-        }
-    }
-    return true;
+    const Corners qc = cornersOf(q);
+    const Corners pc = cornersOf(p);
+    return !FaceRelations::onSideOf(qc, pc, p.nx, p.ny, p.nz, true) &&
+           !FaceRelations::onSideOf(pc, qc, q.nx, q.ny, q.nz, false) &&
+           FaceRelations::obscures(pc, qc);
 }
 
 FaceOrder::FaceOrder(const Faces& faces) {
-    for (const auto& face : faces) {
+    for (uint32_t listed = 0; listed < faces.size(); ++listed) {
+        const auto& face = faces[listed];
         if (face->IsCulled) {
             continue;
         }
         const auto index = static_cast<uint32_t>(items_.size());
-        Item item{face.get(), 0, 0, 0, 0, 0, 0, index, index - 1, index + 1};
+        Item item{0, 0, 0, 0, 0, 0, index - 1, index + 1};
         face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
         face->TransformedNormalVector(item.nx, item.ny, item.nz);
         item.firstCorner = static_cast<uint32_t>(corners_.size());
-        const int32_t corners = face->getSolidContainer() != nullptr ? face->NumPts : 0;
-        item.cornerCount = static_cast<uint32_t>(std::max(corners, 0));
-        for (int corner = 1; corner <= corners; ++corner) {
+        item.cornerCount = face->getSolidContainer() != nullptr ? std::max(face->NumPts, 0) : 0;
+        for (int corner = 1; corner <= item.cornerCount; ++corner) {
             Corner c{};
             face->GetTransformedPoint(corner, c.x, c.y, c.z);
             corners_.push_back(c);
         }
         items_.push_back(item);
-        owners_.push_back(face);
+        listed_.push_back(listed);
+        keys_.push_back(index);
     }
     waitingCount_ = items_.size();
+    marks_.assign(items_.size(), 0);
+    // Room for every face once, and one more: collect writes before it counts.
+    candidates_.resize(items_.size() + 1);
     if (!items_.empty()) {
         head_ = 0;
         items_.front().prev = none;
@@ -145,27 +137,41 @@ void FaceOrder::buildGrid() {
     y0_ = static_cast<float>(ylo);
     cellW_ = nx_ > 1 ? static_cast<float>((xhi - xlo) / nx_) : 1.0f;
     cellH_ = ny_ > 1 ? static_cast<float>((yhi - ylo) / ny_) : 1.0f;
-    cells_.assign(static_cast<size_t>(nx_) * static_cast<size_t>(ny_), {});
-    for (uint32_t i = 0; i < items_.size(); ++i) {
+    // Two passes: count each cell's entries, then place them, wide faces in the last cell.
+    const auto cellCount = static_cast<size_t>(nx_) * static_cast<size_t>(ny_);
+    wideCell_ = static_cast<uint32_t>(cellCount);
+    cellSize_.assign(cellCount + 1, 0);
+    const auto forEachCell = [&](uint32_t i, auto visit) {
         const Item& item = items_[i];
         const int x0 = cellX(item.xmin), x1 = cellX(item.xmax);
         const int y0 = cellY(item.ymin), y1 = cellY(item.ymax);
         if ((x1 - x0 + 1) * (y1 - y0 + 1) > maxCellsPerFace) {
-            wide_.push_back(entryOf(i));
-            continue;
+            visit(wideCell_);
+            return;
         }
         for (int y = y0; y <= y1; ++y) {
             for (int x = x0; x <= x1; ++x) {
-                cells_[static_cast<size_t>(y * nx_ + x)].push_back(entryOf(i));
+                visit(static_cast<uint32_t>(y * nx_ + x));
             }
         }
+    };
+    for (uint32_t i = 0; i < items_.size(); ++i) {
+        forEachCell(i, [&](uint32_t cell) { ++cellSize_[cell]; });
+    }
+    cellStart_.resize(cellCount + 1);
+    std::exclusive_scan(cellSize_.begin(), cellSize_.end(), cellStart_.begin(), 0u);
+    entries_.resize(cellStart_.back() + cellSize_.back());
+    std::fill(cellSize_.begin(), cellSize_.end(), 0u);
+    for (uint32_t i = 0; i < items_.size(); ++i) {
+        forEachCell(
+            i, [&](uint32_t cell) { entries_[cellStart_[cell] + cellSize_[cell]++] = entryOf(i); });
     }
     // By depth, so that a search stops at the first face too near to precede P (NaN last).
     const auto depthKey = [](const Entry& e) { return std::isnan(e.zmin) ? INFINITY : e.zmin; };
     const auto byDepth = [&](const Entry& a, const Entry& b) { return depthKey(a) < depthKey(b); };
-    std::sort(wide_.begin(), wide_.end(), byDepth);
-    for (auto& cell : cells_) {
-        std::sort(cell.begin(), cell.end(), byDepth);
+    for (size_t cell = 0; cell <= cellCount; ++cell) {
+        const auto first = entries_.begin() + cellStart_[cell];
+        std::sort(first, first + cellSize_[cell], byDepth);
     }
 }
 
@@ -193,10 +199,10 @@ uint32_t FaceOrder::firstConflict(uint32_t p) {
         return scanList(p);
     }
     // When the cells hold as many entries as there are waiting faces, the list is cheaper.
-    size_t entries = wide_.size();
+    size_t entries = cellSize_[wideCell_];
     for (int y = y0; y <= y1; ++y) {
         for (int x = x0; x <= x1; ++x) {
-            entries += cells_[static_cast<size_t>(y * nx_ + x)].size();
+            entries += cellSize_[static_cast<size_t>(y * nx_ + x)];
         }
     }
     return entries >= waitingCount_ ? scanList(p) : scanGrid(p, x0, x1, y0, y1);
@@ -212,51 +218,59 @@ uint32_t FaceOrder::scanList(uint32_t p) const {
 }
 
 uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
-    ++search_;
-    candidates_.clear();
+    marks_[p] = ++search_; // P is not its own candidate
+    candidateCount_ = 0;
     const Item& mine = items_[p];
-    // Collects the waiting faces whose boxes meet P's; emitted ones met on the way leave
-    // the cell, so that later searches do not meet them again.
-    const auto collect = [&](std::vector<Entry>& list) {
-        size_t kept = 0;
-        size_t k = 0;
-        for (; k < list.size(); ++k) {
-            const Entry entry = list[k];
-            if (!(entry.zmin < mine.zmax)) {
-                break; // the rest lie no deeper
-            }
-            Item& other = items_[entry.item];
-            if (!other.waiting) {
-                continue;
-            }
-            if (entry.item != p && other.seen != search_ && boxesOverlap(entry, mine)) {
-                other.seen = search_;
-                candidates_.push_back(entry.item);
-            }
-            if (kept != k) {
-                list[kept] = entry;
-            }
-            ++kept;
-        }
-        if (kept != k) {
-            list.erase(list.begin() + static_cast<std::ptrdiff_t>(kept),
-                       list.begin() + static_cast<std::ptrdiff_t>(k));
-        }
-    };
-    collect(wide_);
+    collect(wideCell_, mine);
     for (int y = y0; y <= y1; ++y) {
         for (int x = x0; x <= x1; ++x) {
-            collect(cells_[static_cast<size_t>(y * nx_ + x)]);
+            collect(static_cast<uint32_t>(y * nx_ + x), mine);
         }
     }
-    std::sort(candidates_.begin(), candidates_.end(),
-              [this](uint32_t a, uint32_t b) { return items_[a].key < items_[b].key; });
-    for (const uint32_t q : candidates_) {
+    // Usually a few candidates and the first or second must precede P: take them by their
+    // place in the waiting list, nearest the front first, without sorting them all.
+    while (candidateCount_ > 0) {
+        size_t first = 0;
+        for (size_t k = 1; k < candidateCount_; ++k) {
+            first = keys_[candidates_[k]] < keys_[candidates_[first]] ? k : first;
+        }
+        const uint32_t q = candidates_[first];
         if (mustPaintBefore(items_[q], mine)) {
             return q;
         }
+        candidates_[first] = candidates_[--candidateCount_];
     }
     return none;
+}
+
+// Without branches on what the entries hold, which no predictor could learn: every entry is
+// written back (kept when still waiting) and every one written as a candidate (counted when
+// it is one).
+void FaceOrder::collect(uint32_t cell, const Item& p) {
+    Entry* const first = entries_.data() + cellStart_[cell];
+    Entry* const end = first + cellSize_[cell];
+    Entry* kept = first;
+    Entry* e = first;
+    uint32_t* const found = candidates_.data();
+    size_t count = candidateCount_;
+    for (; e != end && e->zmin < p.zmax; ++e) {
+        const Entry entry = *e;
+        uint64_t& mark = marks_[entry.item];
+        const bool waiting = mark != emitted;
+        const bool meets = waiting & (mark != search_) & (entry.xmax > p.xmin) &
+                           (entry.xmin < p.xmax) & (entry.ymax > p.ymin) & (entry.ymin < p.ymax);
+        mark = meets ? search_ : mark;
+        found[count] = entry.item;
+        count += meets;
+        *kept = entry;
+        kept += waiting;
+    }
+    // The rest lie no deeper than P reaches; close the gap the emitted faces left.
+    if (kept != e) {
+        kept = std::copy(e, end, kept);
+        cellSize_[cell] = static_cast<uint32_t>(kept - first);
+    }
+    candidateCount_ = count;
 }
 
 // The faces moved since the last emission lead the list, most recently moved first, and the
@@ -320,7 +334,7 @@ void FaceOrder::unlink(uint32_t i) {
 
 void FaceOrder::pushFront(uint32_t i) {
     Item& item = items_[i];
-    item.key = --frontKey_;
+    keys_[i] = --frontKey_;
     item.prev = none;
     item.next = head_;
     if (head_ != none) {

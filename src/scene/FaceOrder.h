@@ -28,21 +28,26 @@ public:
 
 private:
     struct Item {
-        Face3d* face;
         float xmin, xmax, ymin, ymax, zmin, zmax;
-        int64_t key;         // position in the waiting list, smallest first
         uint32_t prev, next; // neighbours in the waiting list
         // The face's plane normal and transformed corners (in corners_), read once: the
-        // plane tests meet every face many times.
+        // relation tests meet every face many times.
         float nx = 0, ny = 0, nz = 0;
-        uint32_t firstCorner = 0, cornerCount = 0;
-        uint32_t seen = 0; // the last search that met this face
-        uint32_t run = 0;  // the last run of moves that moved this face
-        bool waiting = true;
+        uint32_t firstCorner = 0;
+        int cornerCount = 0;
+        uint32_t run = 0; // the last run of moves that moved this face
     };
 
     struct Corner {
         float x, y, z;
+    };
+
+    // One face's corners in corners_, as the relation tests read them.
+    struct Corners {
+        const Corner* first;
+        int count;
+        int size() const { return count; }
+        const Corner& operator[](int corner) const { return first[corner]; }
     };
 
     // A face's place in a cell, with the part of its box the search tests.
@@ -52,12 +57,10 @@ private:
     };
 
     explicit FaceOrder(const Faces& faces);
+    Corners cornersOf(const Item& item) const;
     // Q has to be painted before P: their canvas boxes overlap, Q reaches behind P's nearest
     // depth, and the plane and edge tests agree that P lies in front of Q.
     bool mustPaintBefore(const Item& q, const Item& p) const;
-    // Every corner of a lies on the viewer's side (or the far side) of b's plane, within
-    // 0.01: Face3d::IsAbove and IsBelow on the values read once.
-    bool onSideOf(const Item& a, const Item& b, bool towardsViewer) const;
     Entry entryOf(uint32_t i) const;
     void buildGrid();
     int cellX(float x) const;
@@ -66,6 +69,9 @@ private:
     uint32_t firstConflict(uint32_t p);
     uint32_t scanList(uint32_t p) const;
     uint32_t scanGrid(uint32_t p, int x0, int x1, int y0, int y1);
+    // Adds the waiting faces of a cell that meet P's box to candidates_ (once per search) and
+    // drops the emitted faces the search passes from the cell.
+    void collect(uint32_t cell, const Item& p);
     // Moves after which the state repeats one already seen, period by period up to limit.
     size_t skipRepeats(uint32_t moved, size_t moves, size_t limit);
     bool leadMatchesSnapshot() const;
@@ -74,19 +80,30 @@ private:
     void pushFront(uint32_t i);
 
     static constexpr uint32_t none = UINT32_MAX;
+    // The mark of a face no longer waiting; a waiting face's mark is the last search that met
+    // it (64 bits, so that the count never wraps).
+    static constexpr uint64_t emitted = UINT64_MAX;
     std::vector<Item> items_;
     std::vector<Corner> corners_;
-    std::vector<std::shared_ptr<Face3d>> owners_;
+    std::vector<uint32_t> listed_; // where each face stands in the list sorted
+    // Per face, apart from the items so that a search touches only these: its position in
+    // the waiting list (smallest first) and its mark.
+    std::vector<int64_t> keys_;
+    std::vector<uint64_t> marks_;
     uint32_t head_ = none;
     size_t waitingCount_ = 0;
     int64_t frontKey_ = 0;
-    uint32_t search_ = 0;
-    // Grid over the boxes; faces spanning too many cells are kept apart in wide_.
+    uint64_t search_ = 0;
+    // Grid over the boxes: cell c holds entries_[cellStart_[c]] onwards, cellSize_[c] of
+    // them. Faces spanning too many cells are kept apart, as the last cell.
     float x0_ = 0, y0_ = 0, cellW_ = 1, cellH_ = 1;
     int nx_ = 1, ny_ = 1;
-    std::vector<std::vector<Entry>> cells_;
-    std::vector<Entry> wide_;
+    std::vector<Entry> entries_;
+    std::vector<uint32_t> cellStart_;
+    std::vector<uint32_t> cellSize_;
+    uint32_t wideCell_ = 0;
     std::vector<uint32_t> candidates_;
+    size_t candidateCount_ = 0;
     // The current run of moves: faces it moved, and a snapshot of their order.
     uint32_t run_ = 1;
     size_t runFaces_ = 0;
