@@ -11,6 +11,9 @@ namespace {
 // A face whose box covers more cells than this is searched for by every face instead.
 constexpr int maxCellsPerFace = 32;
 
+// Up to this many candidates are picked out one by one rather than sorted.
+constexpr size_t fewCandidates = 8;
+
 template <class Q, class P> bool boxesOverlap(const Q& q, const P& p) {
     return q.xmax > p.xmin && q.xmin < p.xmax && q.ymax > p.ymin && q.ymin < p.ymax &&
            q.zmin < p.zmax;
@@ -227,18 +230,24 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
             collect(static_cast<uint32_t>(y * nx_ + x), mine);
         }
     }
-    // Usually a few candidates and the first or second must precede P: take them by their
-    // place in the waiting list, nearest the front first, without sorting them all.
-    while (candidateCount_ > 0) {
-        size_t first = 0;
-        for (size_t k = 1; k < candidateCount_; ++k) {
-            first = keys_[candidates_[k]] < keys_[candidates_[first]] ? k : first;
+    // Taken by their place in the waiting list, nearest the front first. Usually there are a
+    // few and the first or second must precede P: those are picked out one by one; many are
+    // sorted once.
+    uint32_t* const first = candidates_.data();
+    const auto byKey = [this](uint32_t a, uint32_t b) { return keys_[a] < keys_[b]; };
+    if (candidateCount_ > fewCandidates) {
+        std::sort(first, first + candidateCount_, byKey);
+        const auto found = std::find_if(first, first + candidateCount_, [&](uint32_t q) {
+            return mustPaintBefore(items_[q], mine);
+        });
+        return found != first + candidateCount_ ? *found : none;
+    }
+    for (uint32_t* end = first + candidateCount_; end != first; --end) {
+        uint32_t* const next = std::min_element(first, end, byKey);
+        if (mustPaintBefore(items_[*next], mine)) {
+            return *next;
         }
-        const uint32_t q = candidates_[first];
-        if (mustPaintBefore(items_[q], mine)) {
-            return q;
-        }
-        candidates_[first] = candidates_[--candidateCount_];
+        *next = end[-1];
     }
     return none;
 }
@@ -265,10 +274,14 @@ void FaceOrder::collect(uint32_t cell, const Item& p) {
         *kept = entry;
         kept += waiting;
     }
-    // The rest lie no deeper than P reaches; close the gap the emitted faces left.
+    // The rest lie no deeper than P reaches. The gap the emitted faces left is closed by
+    // moving the faces kept up to the rest, which costs no more than the search did, and the
+    // cell starts where they now start.
     if (kept != e) {
-        kept = std::copy(e, end, kept);
-        cellSize_[cell] = static_cast<uint32_t>(kept - first);
+        std::copy_backward(first, kept, e);
+        const auto gap = static_cast<uint32_t>(e - kept);
+        cellStart_[cell] += gap;
+        cellSize_[cell] -= gap;
     }
     candidateCount_ = count;
 }
