@@ -2,33 +2,26 @@
 
 #include "geometry/RootMod.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
 namespace {
 
-constexpr std::array<uint64_t, RadixObjNumEncap::digitsPerWord> powersOfTen = [] {
-    std::array<uint64_t, RadixObjNumEncap::digitsPerWord> powers{};
-    uint64_t power = 1;
-    for (auto& p : powers) {
-        p = power;
-        power *= 10;
-    }
-    return powers;
-}();
-
-// The last integer digit of a product.
-uint64_t lastDigit(float w) {
-    // A key too large for a single overflows to infinity (and NaN stays NaN); such a digit
-    // counts as 0.
-    if (!std::isfinite(w)) {
-        return 0;
-    }
-    // Whole 64-bit arithmetic is several times faster than fmod on this hot path.
+// Appends the last integer digit of a product to digits, a decimal number.
+uint64_t appendLastDigit(uint64_t digits, float w) {
+    // Whole 64-bit arithmetic is several times faster than fmod on this hot path. The digit
+    // is t - 10 (t / 10) for the integer part t, appended as 10 (digits - t / 10) + t.
     if (w < 9.0e18f) {
-        return static_cast<uint64_t>(static_cast<int64_t>(w)) % 10;
+        const auto t = static_cast<uint64_t>(static_cast<int64_t>(w));
+        return 10 * (digits - t / 10) + t;
     }
-    return static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
+    // A key too large for a single overflows to infinity (and an infinite or NaN key stays
+    // so through every product); such a digit counts as 0.
+    if (!std::isfinite(w)) {
+        return 10 * digits;
+    }
+    return 10 * digits + static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
 }
 
 } // namespace
@@ -65,30 +58,21 @@ void RadixObjNumEncap::pushPrecision(int32_t total) {
 
 void RadixObjNumEncap::getDigitWords(int32_t total, uint64_t* words) const {
     const int32_t wordCount = total / digitsPerWord + 1;
-    for (int32_t i = 0; i < wordCount; ++i) {
-        words[i] = 0;
-    }
     // The digit of a position is the last integer digit of the work value times 10 once
     // per position from the top down to it, each product rounded to a single, rather than
     // the first decimal of the product before: the rounding can carry into the integer part
     // (1.2999999 x 10 gives 13), and reading both positions from the same product keeps
     // that carry, where the decimal would still say 2 and the next position 0.
-    // An infinite or NaN key stays so through every product: all its digits are 0.
-    if (!std::isfinite(workValue_)) {
-        return;
-    }
+    // The positions above the digit count are 0, which adds nothing to a word's number.
     float w = workValue_;
-    int32_t word = digitCount_ / digitsPerWord;
-    int32_t place = digitCount_ % digitsPerWord;
-    uint64_t digits = 0;
-    for (int32_t position = digitCount_; position >= 0; --position) {
-        w = w * 10.0f;
-        digits += lastDigit(w) * powersOfTen[static_cast<size_t>(place)];
-        if (place == 0) {
-            words[word--] = digits;
-            digits = 0;
-            place = digitsPerWord;
+    for (int32_t word = wordCount - 1; word >= 0; --word) {
+        uint64_t digits = 0;
+        const int32_t bottom = word * digitsPerWord;
+        for (int32_t position = std::min(digitCount_, bottom + digitsPerWord - 1);
+             position >= bottom; --position) {
+            w = w * 10.0f;
+            digits = appendLastDigit(digits, w);
         }
-        --place;
+        words[word] = digits;
     }
 }
