@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 
 namespace {
@@ -24,17 +25,38 @@ uint64_t appendLastDigit(uint64_t digits, float w) {
     return 10 * digits + static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
 }
 
+// A work value scaled by a tenth: the product is rounded once in double, then to a single.
+constexpr float tenth(float w) {
+    return static_cast<float>(static_cast<double>(w) * 0.1);
+}
+
+// The greatest single below 10.
+constexpr float justBelowTen = std::bit_cast<float>(std::bit_cast<uint32_t>(10.0f) - 1);
+
 } // namespace
 
 int32_t RadixObjNumEncap::initialize(float value, int16_t precision) {
-    workValue_ = std::fabs(value);
+    float w = std::fabs(value);
     int32_t integerDigits = 0;
     // The integer part of a non-negative value is non-zero exactly when it is at least 1;
-    // an infinite key would never get there and is left unscaled.
-    while (workValue_ >= 1.0f && std::isfinite(workValue_)) {
-        workValue_ = static_cast<float>(static_cast<double>(workValue_) * 0.1);
+    // an infinite key would never get there and is left unscaled. Depths mostly have one
+    // or two integer digits, a random number for each key, so the first two steps are
+    // taken or not without a branch, which would be mispredicted about every other key: a
+    // value scaled once is still at least 1 exactly when it is at least 10, so both are
+    // known at once, and a step not taken multiplies by 1, which gives w back exactly.
+    static_assert(tenth(10.0f) >= 1.0f && tenth(justBelowTen) < 1.0f);
+    const bool finite = std::isfinite(w);
+    const std::array<bool, 2> steps{finite && w >= 1.0f, finite && w >= 10.0f};
+    static constexpr std::array<double, 2> factors{1.0, 0.1};
+    for (const bool step : steps) {
+        w = static_cast<float>(static_cast<double>(w) * factors[step]);
+        integerDigits += step;
+    }
+    while (w >= 1.0f && std::isfinite(w)) {
+        w = tenth(w);
         ++integerDigits;
     }
+    workValue_ = w;
     digitCount_ = integerDigits + precision;
     return digitCount_;
 }
