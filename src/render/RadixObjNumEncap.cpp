@@ -9,20 +9,24 @@
 
 namespace {
 
-// Appends the last integer digit of a product to digits, a decimal number.
+// Appends the last digit of t to digits, a decimal number: the digit is t - 10 (t / 10), so
+// this is 10 (digits - t / 10) + t, without a remainder.
+uint64_t appendLastDigit(uint64_t digits, uint64_t t) {
+    return 10 * (digits - t / 10) + t;
+}
+
+// The same for the integer part of a product w.
 uint64_t appendLastDigit(uint64_t digits, float w) {
-    // Whole 64-bit arithmetic is several times faster than fmod on this hot path. The digit
-    // is t - 10 (t / 10) for the integer part t, appended as 10 (digits - t / 10) + t.
+    // Whole 64-bit arithmetic is several times faster than fmod on this hot path.
     if (w < 9.0e18f) {
-        const auto t = static_cast<uint64_t>(static_cast<int64_t>(w));
-        return 10 * (digits - t / 10) + t;
+        return appendLastDigit(digits, static_cast<uint64_t>(static_cast<int64_t>(w)));
     }
     // A key too large for a single overflows to infinity (and an infinite or NaN key stays
     // so through every product); such a digit counts as 0.
     if (!std::isfinite(w)) {
         return 10 * digits;
     }
-    return 10 * digits + static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f));
+    return appendLastDigit(digits, static_cast<uint64_t>(std::fmod(std::trunc(w), 10.0f)));
 }
 
 // A work value scaled by a tenth: the product is rounded once in double, then to a single.
@@ -87,6 +91,19 @@ void RadixObjNumEncap::getDigitWords(int32_t total, uint64_t* words) const {
     // that carry, where the decimal would still say 2 and the next position 0.
     // The positions above the digit count are 0, which adds nothing to a word's number.
     float w = workValue_;
+    // The usual key, finite and of at most 17 digits, takes at most 18 products of a work
+    // value below 1, which stay below 10^18: their integer parts need no checks, and the
+    // digits fill one word.
+    if (digitCount_ < 18 && std::isfinite(w)) {
+        uint64_t digits = 0;
+        for (int32_t position = digitCount_; position >= 0; --position) {
+            w = w * 10.0f;
+            digits = appendLastDigit(digits, static_cast<uint64_t>(static_cast<int64_t>(w)));
+        }
+        words[0] = digits;
+        std::fill(words + 1, words + wordCount, uint64_t{0});
+        return;
+    }
     for (int32_t word = wordCount - 1; word >= 0; --word) {
         uint64_t digits = 0;
         const int32_t bottom = word * digitsPerWord;
