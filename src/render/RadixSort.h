@@ -153,5 +153,5 @@ private:
     std::vector<uint64_t> words_; // wordCount words by object index
     std::vector<uint32_t> order_;
     std::vector<uint32_t> spare_;
-    std::vector<uint32_t> counts_; // bucket counts of each pass in turn
+    std::vector<uint32_t> counts_; // group sizes, then the bucket counts of each pass in turn
 };
