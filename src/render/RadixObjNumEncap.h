@@ -11,6 +11,7 @@ public:
 
     // Returns the digit count: the integer digits of |value| plus the precision.
     int32_t initialize(float value, int16_t precision);
+    int32_t digitCount() const { return digitCount_; }
 
     // Shifts the digits of a key with fewer than total digits further down, so that it
     // sorts below every key with more integer digits. The digit count stays as it is.

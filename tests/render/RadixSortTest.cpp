@@ -87,15 +87,18 @@ TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
 }
 
 TEST(RadixSort, OrdersExactlyAsTheQueueSortDid) {
-    // Keys whose digits carry when scaled, ties, both zeros, neighbouring singles, and magnitudes
-    // from far below the precision to far beyond 19 digits, where a key spans several words.
+    // Keys whose digits carry when scaled, ties, both zeros, neighbouring singles, magnitudes
+    // from far below the precision to far beyond 19 digits, where a key spans several words,
+    // and keys whose products overflow or that are not finite at all (all such digits are 0).
     std::mt19937 random(977);
     std::uniform_int_distribution<int> pick(0, 5);
     float previous = 1.0f;
     std::uniform_int_distribution<int> exponent(-12, 30);
     std::uniform_real_distribution<float> mantissa(-10.0f, 10.0f);
     std::uniform_int_distribution<int> tenths(-50, 50);
-    const std::vector<float> fixed{0.0f, -0.0f, 1e-9f, -1e-9f, 1.3f, 12.999999f, 3e38f, -3e38f};
+    const float inf = std::numeric_limits<float>::infinity();
+    const std::vector<float> fixed{0.0f,  -0.0f,  1e-9f, -1e-9f, 1.3f,         12.999999f,
+                                   3e38f, -3e38f, inf,   -inf,   std::nanf("")};
     RadixSort<int> sorter;
     for (int round = 0; round < 40; ++round) {
         ReferenceRadixSort<int> reference(round % 3 == 0 ? 4 : 8);
