@@ -98,18 +98,9 @@ template <class Corners> bool clearlyOutside(const Corners& c, float x, float y)
            (below > 0 && below >= wide) || (above > 0 && above >= wide);
 }
 
-// Whether the point lies inside the polygon, by the angle its edges turn through as seen
-// from the point.
-template <class Corners> bool pointInside(const Corners& c, float x, float y) {
-    if (c.size() < 1) {
-        return false;
-    }
-    // The angles below add up to (almost exactly) zero for a point outside the polygon; far
-    // enough beside its box, where no two corners are half a turn apart as seen from the
-    // point, that needs no arc tangents.
-    if (clearlyOutside(c, x, y)) {
-        return false;
-    }
+// The angle the polygon's edges turn through as seen from the point: a whole turn around a
+// point inside, (almost exactly) zero outside.
+template <class Corners> double windingAngle(const Corners& c, float x, float y) {
     const auto angleTo = [&](int corner) {
         const auto& t = c[corner];
         double a = Arctan::ArcTan(t.y - y, t.x - x, true);
@@ -132,7 +123,14 @@ template <class Corners> bool pointInside(const Corners& c, float x, float y) {
         sum = sum + d;
         previous = a;
     }
-    return std::fabs(sum) > 0.001;
+    return sum;
+}
+
+// Whether the point lies inside the polygon, by its winding angle. Far enough beside the
+// corners' box, where no two corners are half a turn apart as seen from the point, the angle
+// is zero without the arc tangents.
+template <class Corners> bool pointInside(const Corners& c, float x, float y) {
+    return c.size() >= 1 && !clearlyOutside(c, x, y) && std::fabs(windingAngle(c, x, y)) > 0.001;
 }
 
 // Whether a lies in front of b where they overlap on the canvas: at the first crossing of

@@ -1,8 +1,7 @@
 #include "scene/Face3d.h"
 
-#include "geometry/Arctan.h"
-#include "geometry/Pi.h"
 #include "render/GDIRegion.h"
+#include "scene/FaceRelations.h"
 #include "scene/Solid3d.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestSolids.h"
@@ -202,29 +201,15 @@ TEST(Face3d, PointInsideCountsTheWindingAngle) {
 
 namespace {
 
-// The winding test written out in full, for every point: the sum of the angles the edges
-// turn through, seen from the point, as the arc tangent gives them.
-bool windingReference(const std::vector<std::pair<float, float>>& corners, float x, float y) {
-    const auto angleTo = [&](const std::pair<float, float>& c) {
-        double a = Arctan::ArcTan(c.second - y, c.first - x, true);
-        return a < 0 ? a + Pi::twoPi14 : a;
-    };
-    double previous = angleTo(corners.back());
-    double sum = 0;
-    for (const auto& corner : corners) {
-        const double a = angleTo(corner);
-        double d = a - previous;
-        if (d > Pi::pi14) {
-            d = d - Pi::twoPi14;
-        }
-        if (d < -Pi::pi14) {
-            d = d + Pi::twoPi14;
-        }
-        sum = sum + d;
-        previous = a;
-    }
-    return std::fabs(sum) > 0.001;
-}
+struct Corner {
+    float x, y;
+};
+
+struct Polygon {
+    std::vector<Corner> corners;
+    int size() const { return static_cast<int>(corners.size()); }
+    const Corner& operator[](int i) const { return corners[static_cast<size_t>(i)]; }
+};
 
 } // namespace
 
@@ -242,23 +227,24 @@ TEST(Face3d, PointInsideAnswersAsTheFullWindingSumForRandomFacesAndPoints) {
         const float scale = round % 3 == 0 ? 0.005f : round % 3 == 1 ? 1.0f : 300.0f;
         const float stretch = round % 5 == 0 ? 0.001f : 1.0f;
         std::vector<float> xyz;
-        std::vector<std::pair<float, float>> corners;
+        Polygon polygon;
         const int count = 3 + static_cast<int>(random() % 5);
         for (int i = 0; i < count; ++i) {
             const float cx = uniform(-1, 1) * scale;
             const float cy = uniform(-1, 1) * scale * stretch;
             xyz.insert(xyz.end(), {cx, cy, 0});
-            corners.emplace_back(cx, cy);
+            polygon.corners.push_back({cx, cy});
         }
         auto face = addFace(solid, xyz);
         solid.Apply(canvasLayout());
         for (int k = 0; k < 8; ++k) {
-            const auto& [cx, cy] = corners[random() % corners.size()];
+            const auto& [cx, cy] = polygon.corners[random() % polygon.corners.size()];
             // Near a corner, or along a diagonal through it where the shortcut's bounds lie.
             const float dx = uniform(-3, 3) * scale;
             const float x = cx + dx;
             const float y = k % 2 == 0 ? cy + uniform(-3, 3) * scale : cy + (k % 4 == 1 ? dx : -dx);
-            const bool expected = windingReference(corners, x, y);
+            // The full sum of the angles the edges turn through, for every point.
+            const bool expected = std::fabs(FaceRelations::windingAngle(polygon, x, y)) > 0.001;
             outside += expected ? 0 : 1;
             ASSERT_EQ(face->PointInside(x, y), expected)
                 << "round " << round << " point " << x << ", " << y;
