@@ -11,9 +11,6 @@ namespace {
 // A face whose box covers more cells than this is searched for by every face instead.
 constexpr int maxCellsPerFace = 32;
 
-// Up to this many candidates are picked out one by one rather than sorted.
-constexpr size_t fewCandidates = 8;
-
 template <class Q, class P> bool boxesOverlap(const Q& q, const P& p) {
     return q.xmax > p.xmin && q.xmin < p.xmax && q.ymax > p.ymin && q.ymin < p.ymax &&
            q.zmin < p.zmax;
@@ -230,26 +227,13 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
             collect(static_cast<uint32_t>(y * nx_ + x), mine);
         }
     }
-    // Taken by their place in the waiting list, nearest the front first. Usually there are a
-    // few and the first or second must precede P: those are picked out one by one; many are
-    // sorted once.
+    // Taken by their place in the waiting list, nearest the front first.
     uint32_t* const first = candidates_.data();
-    const auto byKey = [this](uint32_t a, uint32_t b) { return keys_[a] < keys_[b]; };
-    if (candidateCount_ > fewCandidates) {
-        std::sort(first, first + candidateCount_, byKey);
-        const auto found = std::find_if(first, first + candidateCount_, [&](uint32_t q) {
-            return mustPaintBefore(items_[q], mine);
-        });
-        return found != first + candidateCount_ ? *found : none;
-    }
-    for (uint32_t* end = first + candidateCount_; end != first; --end) {
-        uint32_t* const next = std::min_element(first, end, byKey);
-        if (mustPaintBefore(items_[*next], mine)) {
-            return *next;
-        }
-        *next = end[-1];
-    }
-    return none;
+    uint32_t* const end = first + candidateCount_;
+    std::sort(first, end, [this](uint32_t a, uint32_t b) { return keys_[a] < keys_[b]; });
+    const auto found =
+        std::find_if(first, end, [&](uint32_t q) { return mustPaintBefore(items_[q], mine); });
+    return found != end ? *found : none;
 }
 
 // Without branches on what the entries hold, which no predictor could learn: every entry is
