@@ -83,13 +83,6 @@ std::shared_ptr<Solid3d> overlappingCubes(int count) {
     return solid;
 }
 
-template <class Order> void run(benchmark::State& state, const Solid3d& solid, Order order) {
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(order(solid));
-    }
-    state.counters["faces"] = solid.GetFaceNum();
-}
-
 // The solids in turn, one per iteration.
 template <class Order>
 void run(benchmark::State& state, const std::vector<std::shared_ptr<Solid3d>>& solids,
@@ -137,16 +130,16 @@ static void BM_SortFaces_Fast(benchmark::State& state) {
     run(state, toruses(state), fast);
 }
 static void BM_SortFacesTwisted_Literal(benchmark::State& state) {
-    run(state, *twisted(state), literal);
+    run(state, {twisted(state)}, literal);
 }
 static void BM_SortFacesTwisted_Fast(benchmark::State& state) {
-    run(state, *twisted(state), fast);
+    run(state, {twisted(state)}, fast);
 }
 static void BM_SortFacesOverlap_Literal(benchmark::State& state) {
-    run(state, *overlappingCubes(static_cast<int>(state.range(0))), literal);
+    run(state, {overlappingCubes(static_cast<int>(state.range(0)))}, literal);
 }
 static void BM_SortFacesOverlap_Fast(benchmark::State& state) {
-    run(state, *overlappingCubes(static_cast<int>(state.range(0))), fast);
+    run(state, {overlappingCubes(static_cast<int>(state.range(0)))}, fast);
 }
 BENCHMARK(BM_SortFaces_Literal)
     ->Arg(1000)
