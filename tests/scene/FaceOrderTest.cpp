@@ -2,10 +2,10 @@
 
 #include "scene/Solid3d.h"
 #include "support/LiteralFaceOrder.h"
+#include "support/TestScale.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -143,11 +143,9 @@ std::vector<int32_t> orderNumbers(const FaceList& faces) {
 } // namespace
 
 // The fast order must be the plain scan's, face for face, on every kind of set: the same
-// first conflict, the same moves, the same cycle breaking. KORVAN_FACE_ORDER_SETS sets how
-// many (10,000 by default).
+// first conflict, the same moves, the same cycle breaking.
 TEST(FaceOrder, MatchesTheLiteralScanOnRandomFaceSets) {
-    const char* requested = std::getenv("KORVAN_FACE_ORDER_SETS");
-    const long sets = requested != nullptr ? std::atol(requested) : 10000;
+    const long sets = TestScale::count(10000);
     FaceSets generator(20261123);
     long reordered = 0;
     for (long set = 0; set < sets; ++set) {
