@@ -18,6 +18,7 @@
 #include "scene/Profile.h"
 #include "scene/WorkPlane.h"
 
+#include <algorithm>
 #include <any>
 #include <string>
 #include <vector>
@@ -125,19 +126,21 @@ bool ProfileCommands::closeProfile() {
     dialog.initialize(guess);
     dialogs_.showModal(dialog);
 
-    // A profile closed again (C pressed twice) keeps one node, which lists its points as
-    // they are now.
+    if (dialog.hasConfirmed() &&
+        dialog.getOrientation().getOrientation() == Orientation2D::CounterClockWise) {
+        profile->changeOrientation(); // profiles are kept clockwise
+    }
+    // A profile closed again (C pressed twice) keeps one node; the node is made after the
+    // profile is turned, so that it lists the points as they are stored.
     if (const std::string key = tree_.keyOf(profile); !key.empty()) {
         tree_.removeNode(key);
     }
     tree_.addProfileNode(profile, "Profile");
-    if (dialog.hasConfirmed()) {
-        if (dialog.getOrientation().getOrientation() == Orientation2D::CounterClockWise) {
-            profile->changeOrientation(); // profiles are kept clockwise
-        }
-    } else {
-        const auto n = static_cast<int32_t>(document_.profiles.size());
-        window_.removeProfile(n, "r" + std::to_string(n));
+    if (!dialog.hasConfirmed()) {
+        // Node and list place are both looked up by the profile, not taken from the list's
+        // length: after Open the tree holds no nodes of the profiles drawn before it, so the
+        // last list place would name another profile's node, or none.
+        window_.removeProfile(listPlace(profile), tree_.keyOf(profile));
     }
     window_.setMouseMode(std::make_unique<ClickHandleNothing>());
     return false;
@@ -152,15 +155,23 @@ bool ProfileCommands::hasProfileFor(const char* refusal) const {
 }
 
 bool ProfileCommands::confirmed(const char* question, const char* title) const {
-    return activePrompts().messageBox(question, title, MessageIcon::None, MessageButtons::YesNo) ==
-           MessageAnswer::Yes;
+    return activePrompts().messageBox(question, title, MessageIcon::None,
+                                      MessageButtons::YesNoDefaultNo) == MessageAnswer::Yes;
+}
+
+int32_t ProfileCommands::listPlace(const std::shared_ptr<Profile>& profile) const {
+    const auto& profiles = document_.profiles;
+    const auto found = std::find(profiles.begin(), profiles.end(), profile);
+    return found == profiles.end() ? 0 : static_cast<int32_t>(found - profiles.begin() + 1);
 }
 
 void ProfileCommands::removeLastProfile() {
-    const auto n = static_cast<int32_t>(document_.profiles.size());
-    document_.removeProfile(n);
-    // A profile still being drawn has no node; a closed one has, numbered as its position.
-    tree_.removeNode("r" + std::to_string(n));
+    const auto last = document_.profiles.back();
+    // A profile still being drawn has no node, nor has one drawn before an Open.
+    if (const std::string key = tree_.keyOf(last); !key.empty()) {
+        tree_.removeNode(key);
+    }
+    document_.removeProfile(static_cast<int32_t>(document_.profiles.size()));
 }
 
 void ProfileCommands::redrawProfile() {

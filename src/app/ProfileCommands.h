@@ -2,6 +2,7 @@
 
 #include "geometry/PointRecord.h"
 
+#include <cstdint>
 #include <memory>
 
 class MainMenu;
@@ -53,6 +54,8 @@ private:
     // commands share.
     bool hasProfileFor(const char* refusal) const;
     bool confirmed(const char* question, const char* title) const;
+    // The profile's 1-based place in the document's list, 0 when it is not there.
+    int32_t listPlace(const std::shared_ptr<Profile>& profile) const;
     // Removes the last profile and its tree node, if it has one.
     void removeLastProfile();
 

@@ -135,7 +135,10 @@ TEST(ProfileCommands, ClosingEndsTheProfileWhereItBeganOnceItHasTwoPoints) {
     EXPECT_EQ(closed[0], corners[0]);
     EXPECT_EQ(closed[1], corners[2]);
     EXPECT_EQ(closed[3], corners[0]); // the first point object again
-    EXPECT_TRUE(three.hasNode("r1"));
+    ASSERT_TRUE(three.hasNode("r1"));
+    const auto& pointNodes = three.form.getSceneTree().findSceneNode("r1")->children();
+    ASSERT_EQ(pointNodes.size(), 4u);
+    EXPECT_EQ(pointNodes[1]->children().front()->text, closed[1]->toString()); // as stored
     EXPECT_EQ(three.document().profiles.size(), 1u);
     EXPECT_EQ(three.form.getMouseMode().getMouseIcon(), MousePointer::Default);
 
@@ -167,7 +170,7 @@ TEST(ProfileCommands, RedrawAndCancelAskFirstAndNeedACurrentProfile) {
     ASSERT_EQ(d.prompts.messages().size(), 1u);
     EXPECT_EQ(d.prompts.messages()[0].text, "Are you sure you want to cancel your profile?");
     EXPECT_EQ(d.prompts.messages()[0].title, "Canceling Profile");
-    EXPECT_EQ(d.prompts.messages()[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(d.prompts.messages()[0].buttons, MessageButtons::YesNoDefaultNo);
     EXPECT_EQ(d.current(), first);
 
     d.prompts.queueAnswer(MessageAnswer::Yes);
@@ -201,6 +204,36 @@ TEST(ProfileCommands, ClosingAgainKeepsOneNodeListingEveryPoint) {
     const auto& nodes = d.form.getSceneTree().root().children();
     ASSERT_EQ(nodes.size(), 1u); // the workplane was put in the document without its node
     EXPECT_EQ(nodes.back()->children().size(), 5u);
+}
+
+TEST(ProfileCommands, CancellingTakesTheProfilesOwnNodeWhenOthersHaveNone) {
+    // After Open the tree holds only the opened solids; profiles drawn before have no node.
+    Drawing d(3);
+    const auto before = d.current();
+    d.dialogs.queueDialog({Host::choose("optCW"), Host::press("mnuConfirm")});
+    d.form.closeProfile();
+    d.form.getSceneTree().removeAllNodes();
+    d.form.createProfile();
+    for (int i = 0; i < 3; ++i) {
+        d.form.addProfilePoint(clicked(static_cast<float>(i), 1, 0));
+    }
+    d.dialogs.queueDialog({Host::press("mnuCancel")});
+    d.form.closeProfile();
+    EXPECT_EQ(d.document().profiles, std::vector<std::shared_ptr<Profile>>{before});
+    EXPECT_TRUE(d.form.getSceneTree().root().children().empty());
+
+    // Cancel Profile on a closed one, whose node is r1 though it is second in the list.
+    d.form.createProfile();
+    for (int i = 0; i < 3; ++i) {
+        d.form.addProfilePoint(clicked(static_cast<float>(i), 2, 0));
+    }
+    d.dialogs.queueDialog({Host::choose("optCW"), Host::press("mnuConfirm")});
+    d.form.closeProfile();
+    ASSERT_TRUE(d.hasNode("r1"));
+    d.prompts.queueAnswer(MessageAnswer::Yes);
+    d.choose({"&Profile", "C&ancel Profile"});
+    EXPECT_EQ(d.document().profiles, std::vector<std::shared_ptr<Profile>>{before});
+    EXPECT_FALSE(d.hasNode("r1"));
 }
 
 TEST(ProfileCommands, CancellingAClosedProfileTakesItsNodeToo) {
