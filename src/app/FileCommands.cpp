@@ -5,6 +5,7 @@
 #include "app/SceneTreeModel.h"
 #include "app/ViewportSet.h"
 #include "app/frmTolvane.h"
+#include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "io/CommonDialogNoOCX.h"
 #include "io/FileNames.h"
@@ -13,24 +14,20 @@
 #include "platform/Prompts.h"
 #include "platform/WindowFrame.h"
 
-#include <cstdlib>
 #include <optional>
 #include <string>
 
 namespace {
 
 // The viewport an answer to the export question names (0 to 3), or nothing when the answer
-// is no number greater than 0 and at most 4. Answers below 0.5 name no viewport either.
+// is no number greater than 0 and at most 4, read as every typed number is. Answers below
+// 0.5 name no viewport either.
 std::optional<int> viewportIndex(const std::string& answer) {
-    const char* begin = answer.c_str();
-    char* end = nullptr;
-    const double value = std::strtod(begin, &end);
-    const bool numeric =
-        end != begin && std::string(end).find_first_not_of(' ') == std::string::npos;
-    if (!numeric || !(value <= 4)) {
+    const std::optional<float> value = NumberText::parseSingle(answer);
+    if (!value || !(*value <= 4)) {
         return std::nullopt;
     }
-    const int index = Rounding::toInt32(static_cast<float>(value - 1));
+    const int index = Rounding::toInt32(static_cast<float>(static_cast<double>(*value) - 1));
     return index >= 0 ? std::optional<int>(index) : std::nullopt;
 }
 
@@ -65,7 +62,7 @@ void FileCommands::bind(MainMenu& menus) {
 void FileCommands::New() {
     const MessageAnswer answer = activePrompts().messageBox(
         "Are you sure you want to create a new file.  All unsaved information will be lost.",
-        window_.caption(), MessageIcon::None, MessageButtons::YesNo);
+        window_.caption(), MessageIcon::None, MessageButtons::YesNoDefaultNo);
     if (answer != MessageAnswer::Yes) {
         return;
     }

@@ -9,7 +9,7 @@ public:
     MessageAnswer messageBox(const std::string& text, const std::string& title, MessageIcon,
                              MessageButtons buttons) override {
         std::cerr << title << ": " << text << '\n';
-        return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+        return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
     }
     std::optional<std::string> inputBox(const std::string&, const std::string&,
                                         const std::string&) override {

@@ -4,7 +4,8 @@
 #include <string>
 
 enum class MessageIcon : int { None = 0, Critical = 16, Exclamation = 48, Information = 64 };
-enum class MessageButtons { Ok, YesNo };
+// YesNoDefaultNo asks a question whose Yes loses work: Enter answers No.
+enum class MessageButtons { Ok, YesNo, YesNoDefaultNo };
 enum class MessageAnswer { Ok, Yes, No };
 
 // Modal questions to the user: message boxes and input boxes.

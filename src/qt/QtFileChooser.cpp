@@ -24,6 +24,8 @@ QStringList nameFilters(const std::string& filter) {
     return filters;
 }
 
+constexpr const char* saveTitle = "Save File";
+
 } // namespace
 
 std::string QtFileChooser::chooseFile(const std::string& title, const std::string& filter) {
@@ -31,6 +33,11 @@ std::string QtFileChooser::chooseFile(const std::string& title, const std::strin
                        QCoreApplication::applicationDirPath());
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    // The program opens and saves through the one dialog and tells the two apart only by
+    // the title it gives; a save shows the desktop's save dialog, whose button says Save.
+    if (title == saveTitle) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+    }
     const QStringList filters = nameFilters(filter);
     if (!filters.isEmpty()) {
         dialog.setNameFilters(filters);

@@ -52,7 +52,7 @@ TEST(FileCommands, NewAsksAndEmptiesTheDocumentOnlyOnYes) {
     EXPECT_EQ(w.prompts.messages()[0].text,
               "Are you sure you want to create a new file.  All unsaved information will be lost.");
     EXPECT_EQ(w.prompts.messages()[0].title, "Korvan Version 2.0");
-    EXPECT_EQ(w.prompts.messages()[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(w.prompts.messages()[0].buttons, MessageButtons::YesNoDefaultNo);
     EXPECT_EQ(document.solids.size(), 1u);
 
     w.prompts.queueAnswer(MessageAnswer::Yes);
@@ -133,11 +133,11 @@ TEST(FileCommands, ExportInFourWindowsAsksUntilTheAnswerNamesAViewport) {
     TestWindow w;
     w.choose({"&Options", "&Set Viewports", "&Four Windows"});
     w.files.queueAnswer("four");
-    for (const char* answer : {"0", "5", "-1", "two", "0.4", "2.5"}) {
+    for (const char* answer : {"0", "5", "-1", "two", "0.4", "0x3", "2,5", "2.5"}) {
         w.prompts.queueInput(answer);
     }
     w.choose(fileExport);
-    EXPECT_EQ(w.prompts.inputPrompts().size(), 6u);
+    EXPECT_EQ(w.prompts.inputPrompts().size(), 8u);
     EXPECT_EQ(w.prompts.inputPrompts()[0], "Please Select Viewport to generate bitmap from");
     // 2.5 - 1 rounds to 2, the third viewport.
     EXPECT_EQ(w.canvases[2].savedBitmaps(), (std::vector<std::string>{"four.bmp"}));

@@ -1,9 +1,12 @@
 #include "qt/QtColorChooser.h"
 #include "qt/QtFileChooser.h"
+#include "qt/QtPrompts.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
@@ -29,6 +32,7 @@ TEST(QtFileChooser, StartsInTheProgramFolderEveryTimeAndAcceptsNewNames) {
     QStringList seen; // the start folder, title and filters of every dialog
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         seen << dialog.directory().absolutePath() << dialog.windowTitle() << dialog.nameFilters();
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave); // its button says Save
         dialog.selectFile(newName);
         static_cast<QDialog&>(dialog).accept(); // QFileDialog hides the public slot
     });
@@ -36,12 +40,26 @@ TEST(QtFileChooser, StartsInTheProgramFolderEveryTimeAndAcceptsNewNames) {
               newName.toStdString());
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         seen << dialog.directory().absolutePath() << dialog.windowTitle() << dialog.nameFilters();
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         dialog.reject();
     });
     EXPECT_EQ(chooser.chooseFile("Open File", "Bitmaps|*.bmp"), "");
     const QString folder = QDir(QCoreApplication::applicationDirPath()).absolutePath();
     EXPECT_EQ(seen, (QStringList{folder, "Save File", "Tavrin Mesh File(*.tvm)", folder,
                                  "Open File", "Bitmaps (*.bmp)"}));
+}
+
+TEST(QtPrompts, EnterAnswersNoWhereYesLosesWork) {
+    QtPrompts prompts;
+    for (const auto& [buttons, answer] :
+         {std::pair{MessageButtons::YesNo, MessageAnswer::Yes},
+          std::pair{MessageButtons::YesNoDefaultNo, MessageAnswer::No}}) {
+        whenShown<QMessageBox>([](QMessageBox& box) {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(&box, &enter);
+        });
+        EXPECT_EQ(prompts.messageBox("Lose it?", "Question", MessageIcon::None, buttons), answer);
+    }
 }
 
 TEST(QtColorChooser, ReturnsPackedColourBlackAsZeroAndCancelAsMinusOne) {
@@ -52,15 +70,18 @@ TEST(QtColorChooser, ReturnsPackedColourBlackAsZeroAndCancelAsMinusOne) {
             dialog.setCurrentColor(colour);
             dialog.accept();
         });
-        EXPECT_EQ(chooser.chooseColor(0xFFFFFF), chosen.second);
+        EXPECT_EQ(chooser.chooseColor(), chosen.second);
     }
-    // Custom colours defined in one call are gone in the next.
+    // Custom colours defined in one call are gone in the next, and nothing is preselected.
     QColorDialog::setCustomColor(0, QColor(Qt::red));
     QColor firstCustom;
+    QColor start;
     whenShown<QColorDialog>([&](QColorDialog& dialog) {
         firstCustom = QColorDialog::customColor(0);
+        start = dialog.currentColor();
         dialog.reject();
     });
-    EXPECT_EQ(chooser.chooseColor(0), -1);
+    EXPECT_EQ(chooser.chooseColor(), -1);
     EXPECT_EQ(firstCustom, QColor(Qt::black));
+    EXPECT_EQ(start, QColor(Qt::black));
 }

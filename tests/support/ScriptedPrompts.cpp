@@ -8,7 +8,7 @@ MessageAnswer ScriptedPrompts::messageBox(const std::string& text, const std::st
         answers_.pop_front();
         return answer;
     }
-    return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+    return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
 }
 
 std::optional<std::string> ScriptedPrompts::inputBox(const std::string& prompt,
