@@ -18,7 +18,7 @@ public:
 
 class NoColors : public ColorChooser {
 public:
-    int32_t chooseColor(int32_t) override { return -1; }
+    int32_t chooseColor() override { return -1; }
 };
 
 class NoViewports : public ExtrusionPreviewTarget {

@@ -6,7 +6,7 @@
 class FixedColorChooser : public ColorChooser {
 public:
     void setColor(int32_t color) { color_ = color; }
-    int32_t chooseColor(int32_t) override { return color_; }
+    int32_t chooseColor() override { return color_; }
 
 private:
     int32_t color_ = -1;

@@ -9,5 +9,5 @@ std::string CommonDialogNoOCX::OpenFile(const std::string& filter, const std::st
 
 int32_t CommonDialogNoOCX::getColor() {
     // The dialog preselects nothing: black is only where it starts.
-    return colors_.chooseColor(0);
+    return colors_.chooseColor();
 }

@@ -225,7 +225,7 @@ std::string MacroPlayer::chooseFile(const std::string& title, const std::string&
     return expect<macro::File>(take({Waiting::Kind::File}, what), what).path;
 }
 
-int32_t MacroPlayer::chooseColor(int32_t) {
+int32_t MacroPlayer::chooseColor() {
     const std::string what = "the colour dialog is open";
     return expect<macro::Color>(take({Waiting::Kind::Color}, what), what).color;
 }

@@ -58,7 +58,7 @@ public:
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) override;
     std::string chooseFile(const std::string& title, const std::string& filter) override;
-    int32_t chooseColor(int32_t initial) override;
+    int32_t chooseColor() override;
     void setMousePointer(MousePointer pointer) override;
     void showPopupMenu(Canvas& canvas, int x, int y) override;
     void unload() override;

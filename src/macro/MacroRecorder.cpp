@@ -81,8 +81,8 @@ std::string MacroRecorder::chooseFile(const std::string& title, const std::strin
     return path;
 }
 
-int32_t MacroRecorder::chooseColor(int32_t initial) {
-    const int32_t color = colors_->chooseColor(initial);
+int32_t MacroRecorder::chooseColor() {
+    const int32_t color = colors_->chooseColor();
     writer_.write(macro::Color{color < 0 ? -1 : color});
     return color;
 }

@@ -45,7 +45,7 @@ public:
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) override;
     std::string chooseFile(const std::string& title, const std::string& filter) override;
-    int32_t chooseColor(int32_t initial) override;
+    int32_t chooseColor() override;
 
 private:
     MacroWriter& writer_;

@@ -16,7 +16,7 @@ float coefficient(int channel) {
 }
 
 void chooseColor(ColorChooser& colors, SwatchState& swatch) {
-    const int32_t color = colors.chooseColor(swatch.BackColor);
+    const int32_t color = colors.chooseColor();
     if (color != -1) {
         swatch.BackColor = color;
     }

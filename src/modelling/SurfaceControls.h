@@ -15,7 +15,7 @@ namespace SurfaceControls {
 int32_t swatchColor(float kr, float kg, float kb);
 // A swatch channel (0..255) as a coefficient: 255 comes back as 255/256, not 1.
 float coefficient(int channel);
-// The colour the user chooses for a swatch, starting from its own; cancelling keeps it.
+// The swatch takes the colour the user chooses; cancelling keeps its own.
 void chooseColor(ColorChooser& colors, SwatchState& swatch);
 // The specular scroll bars: 0 to 100, one step per arrow, five per page.
 ScrollBarState specularScale();

@@ -1,6 +1,7 @@
 #include "modelling/WorkPlaneDialog.h"
 
 #include "geometry/NumberText.h"
+#include "modelling/SurfaceControls.h"
 #include "platform/ColorChooser.h"
 #include "platform/Prompts.h"
 
@@ -31,11 +32,7 @@ WorkPlaneDialog::WorkPlaneDialog(ColorChooser& colors) : colors_(colors) {
 }
 
 void WorkPlaneDialog::Command1_Click() {
-    // The chooser preselects nothing, as everywhere in the program.
-    const int32_t chosen = colors_.chooseColor(0);
-    if (chosen != -1) {
-        picWPColor.BackColor = chosen;
-    }
+    SurfaceControls::chooseColor(colors_, picWPColor);
 }
 
 void WorkPlaneDialog::mnuAccept_Click() {

@@ -4,13 +4,12 @@
 
 #include <QColorDialog>
 
-int32_t QtColorChooser::chooseColor(int32_t initial) {
+int32_t QtColorChooser::chooseColor() {
     for (int i = 0; i < QColorDialog::customCount(); ++i) {
         QColorDialog::setCustomColor(i, QColor(Qt::black));
     }
-    const PackedColor channels = PackedColor::split(initial);
-    const QColor start(channels.red, channels.green, channels.blue);
-    const QColor chosen = QColorDialog::getColor(start, parent_);
+    // Black is what a dialog with nothing preselected shows.
+    const QColor chosen = QColorDialog::getColor(QColor(Qt::black), parent_);
     if (!chosen.isValid()) {
         return -1;
     }

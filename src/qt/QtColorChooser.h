@@ -10,7 +10,7 @@ class QtColorChooser : public ColorChooser {
 public:
     explicit QtColorChooser(QWidget* parent = nullptr) : parent_(parent) {}
 
-    int32_t chooseColor(int32_t initial) override;
+    int32_t chooseColor() override;
 
 private:
     QWidget* parent_;
