@@ -18,6 +18,9 @@ frmMouseSensivity::frmMouseSensivity() {
 void frmMouseSensivity::Form_Load() {
     HScroll1.Min = 1000;
     HScroll1.Max = 1;
+    // An arrow moves the percentage shown by 1, the trough by 10.
+    HScroll1.SmallChange = 10;
+    HScroll1.LargeChange = 100;
     // A bar starts at its left end until the caller shows a sensitivity.
     HScroll1.Value = HScroll1.Min;
 }

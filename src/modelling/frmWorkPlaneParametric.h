@@ -13,7 +13,13 @@ class WorkPlane;
 // Usage: show the dialog modally; when hasCreated, take getWorkPlane into the document.
 class frmWorkPlaneParametric : public WorkPlaneDialog {
 public:
-    explicit frmWorkPlaneParametric(ColorChooser& colors) : WorkPlaneDialog(colors) {}
+    // A new plane's swatch starts light grey: black, a swatch's own start, would draw the
+    // plane invisibly on the viewports' black background until it is selected.
+    static constexpr int32_t startColor = 0xC0C0C0;
+
+    explicit frmWorkPlaneParametric(ColorChooser& colors) : WorkPlaneDialog(colors) {
+        picWPColor.BackColor = startColor;
+    }
 
     std::string caption() const override { return "Parametric WorkPlane Creation"; }
 

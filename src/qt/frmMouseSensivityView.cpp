@@ -3,6 +3,7 @@
 #include "app/EventGuard.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
@@ -29,6 +30,8 @@ frmMouseSensivityView::frmMouseSensivityView(frmMouseSensivity& form, QWidget* p
     const ScrollBarState& bar = form_.HScroll1;
     HScroll1_->setRange(0, bar.span());
     HScroll1_->setValue(bar.positionOf(bar.Value));
+    HScroll1_->setSingleStep(bar.SmallChange);
+    HScroll1_->setPageStep(bar.LargeChange);
     HScroll1_->setMinimumWidth(240);
     connect(HScroll1_, &QScrollBar::valueChanged, this, [this](int position) {
         EventGuard::run([this, position] {
@@ -45,6 +48,16 @@ frmMouseSensivityView::frmMouseSensivityView(frmMouseSensivity& form, QWidget* p
     layout->setMenuBar(menuBar);
     layout->addLayout(scale);
     layout->addWidget(lblSens_);
+}
+
+void frmMouseSensivityView::keyPressEvent(QKeyEvent* event) {
+    // Enter accepts, as in every other dialog; Escape cancels (QDialog's own handling).
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        EventGuard::run([this] { form_.press("mnuAccept"); });
+        closeIfDone();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void frmMouseSensivityView::closeIfDone() {

@@ -14,7 +14,7 @@ void Vector3DDrawer::draw(Canvas& pic, const Vector3D* v, const viewInfo& view, 
         return;
     }
     const ViewSpecs specs = view.getSpecs();
-    const Matrix4 M = KorvanOpsConsts::getViewMatrix(specs);
+    const Matrix4 M = KorvanOpsConsts::getFullViewMatrix(pic, specs);
     float vx;
     float vy;
     float vz;

@@ -7,9 +7,10 @@ class Vector3D;
 class viewInfo;
 
 // Draws one vector as a line from a world start point with an outlined 10-pixel square at
-// the start, as a direction marker. Only the view's viewing transformation places it: the
-// endpoints land at one pixel per world unit around the canvas's top-left corner, without
-// the viewport's zoom and shift. Nothing is drawn when either end is at or behind the eye.
+// the start, as a direction marker. The view's full matrix places it, zoom and shift
+// included, so the arrow stands where the scene shows its start point and points the way it
+// goes there (a unit vector is as long as one world unit looks). Nothing is drawn when
+// either end is at or behind the eye.
 class Vector3DDrawer {
 public:
     // v may be null (no vector to show); lineStyle is a canvas draw style. The canvas's draw

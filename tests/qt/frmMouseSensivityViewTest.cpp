@@ -36,18 +36,21 @@ TEST(frmMouseSensivityView, TheBarMovesTheWayItIsDrawn) {
     QApplication::processEvents();
     QScrollBar& bar = view.scrollBar();
 
-    // The arrow at the right end, beside "Nervous", makes the mouse more nervous.
+    // The arrow at the right end, beside "Nervous", makes the mouse more nervous, 1 % a click.
     const QPoint rightArrow(bar.width() - 3, bar.height() / 2);
-    for (int i = 0; i < 151; ++i) {
+    for (int i = 0; i < 15; ++i) {
         click(bar, rightArrow);
     }
-    EXPECT_EQ(form.HScroll1.Value, 249);
-    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75.1%");
+    EXPECT_EQ(form.HScroll1.Value, 250);
+    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75%");
 
     key(bar, Qt::Key_Home); // the left end: "Dull"
     EXPECT_EQ(form.HScroll1.Value, 1000);
     key(bar, Qt::Key_End);
     EXPECT_EQ(form.HScroll1.Value, 1);
+
+    key(bar, Qt::Key_Return); // the dialog accepts
+    EXPECT_TRUE(form.isClosed());
 }
 
 TEST(QtModalHost, RunsTheDialogsViewUntilTheDialogCloses) {

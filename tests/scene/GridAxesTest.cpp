@@ -108,25 +108,26 @@ TEST(Vector3DDrawer, DrawsALineAndStartSquareOnlyInFrontOfTheEye) {
     canvas.setDrawStyle(DrawInvisible);
     canvas.setForeColor(7);
     canvas.setFillStyle(FillSolid);
-    const ViewSpecs specs{.EyeTheta = 1.5707964f, .ProjectionType = 0}; // front, parallel
+    // Front, parallel: x to the right and y up, 2 pixels a unit, moved right by 10.
+    const ViewSpecs specs{.shiftx = 20, .zoom = 2, .EyeTheta = 1.5707964f, .ProjectionType = 0};
     viewInfo view;
     view.setSpecs(specs);
     Vector3D behind;
     behind.initializeXYZ(0, 0, 12); // the end lies beyond the eye at depth 10
-    Vector3DDrawer().draw(canvas, &behind, view, 100, 80, 0, 255, 2);
-    Vector3DDrawer().draw(canvas, nullptr, view, 100, 80, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, &behind, view, 10, 20, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, nullptr, view, 10, 20, 0, 255, 2);
     EXPECT_TRUE(canvas.calls().empty());
 
     Vector3D v;
     v.initializeXYZ(30, 20, 0);
-    Vector3DDrawer().draw(canvas, &v, view, 100, 80, 0, 255, 2);
+    Vector3DDrawer().draw(canvas, &v, view, 10, 20, 0, 255, 2);
     const auto& calls = canvas.calls();
     ASSERT_EQ(calls.size(), 3u);
-    expectCall(calls[0], Kind::MoveTo, {{100, 80}});
-    expectCall(calls[1], Kind::LineTo, {{130, 100}});
+    expectCall(calls[0], Kind::MoveTo, {{230, 110}});
+    expectCall(calls[1], Kind::LineTo, {{290, 70}});
     EXPECT_EQ(calls[1].foreColor, 255);
     EXPECT_EQ(calls[1].drawStyle, 2);
-    expectCall(calls[2], Kind::Polygon, {{95, 75}, {105, 75}, {105, 85}, {95, 85}});
+    expectCall(calls[2], Kind::Polygon, {{225, 105}, {235, 105}, {235, 115}, {225, 115}});
     EXPECT_EQ(calls[2].fillStyle, FillTransparent);
     EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
     EXPECT_EQ(canvas.foreColor(), 7);
