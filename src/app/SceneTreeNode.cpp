@@ -1,5 +1,28 @@
 #include "app/SceneTreeNode.h"
 
+#include "scene/Profile.h"
+#include "scene/Transformed3d.h"
+#include "scene/WorkPlane.h"
+
+namespace {
+
+template <class Item> const void* addressIf(const std::any& tag) {
+    const auto* item = std::any_cast<std::shared_ptr<Item>>(&tag);
+    return item != nullptr ? item->get() : nullptr;
+}
+
+} // namespace
+
+const void* SceneTreeNode::itemAddress() const {
+    if (const void* solid = addressIf<Transformed3d>(tag)) {
+        return solid;
+    }
+    if (const void* workPlane = addressIf<WorkPlane>(tag)) {
+        return workPlane;
+    }
+    return addressIf<Profile>(tag);
+}
+
 void SceneTreeNode::appendChild(const std::shared_ptr<SceneTreeNode>& child) {
     child->parent_ = this;
     child->row_ = static_cast<int>(children_.size());

@@ -30,6 +30,9 @@ public:
     int32_t BackColor = white;
 
     void setBackColor(int32_t color) override { BackColor = color; }
+    // The address of the solid, workplane or profile a top-level node stands for, by which a
+    // view knows it again after a rebuild renumbered it; nullptr for other nodes.
+    const void* itemAddress() const;
 
     // The children made so far, in the order shown.
     const SceneTreeNodes& children() const { return children_; }

@@ -2,6 +2,7 @@
 
 #include "app/SceneDocument.h"
 #include "app/SceneTreeNode.h"
+#include "interaction/TreeDisplay.h"
 #include "platform/Prompts.h"
 #include "scene/Face3d.h"
 #include "scene/Profile.h"
@@ -144,5 +145,39 @@ void SelectionState::forgetAllBut(const SceneDocument& document) {
     });
     if (forgot) {
         updatePropertyMenu();
+    }
+}
+
+namespace {
+
+// Paints the nodes keyed letter + place of the selected items among all.
+template <class Item>
+void paintSelected(SelectionState& selection, const std::vector<std::shared_ptr<Item>>& selected,
+                   const std::vector<std::shared_ptr<Item>>& all, TreeDisplay& tree,
+                   const char* letter, int32_t color) {
+    for (const auto& item : selected) {
+        const auto found = std::find(all.begin(), all.end(), item);
+        if (found != all.end()) {
+            const auto n = found - all.begin() + 1;
+            selection.AddSelectNode(tree.findNode(letter + std::to_string(n)), color);
+        }
+    }
+}
+
+} // namespace
+
+void SelectionState::repaintNodes(const SceneDocument& document, TreeDisplay& tree) {
+    selectNodes = {};
+    paintSelected(*this, selectedSolids, document.solids, tree, "s", 255);
+    paintSelected(*this, selectedWorkplanes, document.workPlanes, tree, "w", 65535);
+    paintSelected(*this, selectedProfiles, document.profiles, tree, "r", 16711935);
+    for (const auto& face : selectedFaces) {
+        for (size_t s = 0; s < document.solids.size(); ++s) {
+            if (face->getSolidContainer() == document.solids[s]->getSolid().get()) {
+                AddSelectNode(tree.findNode("f" + std::to_string(face->getOrderNum()) + "-s" +
+                                            std::to_string(s + 1)),
+                              16776960);
+            }
+        }
     }
 }

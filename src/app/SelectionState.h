@@ -7,6 +7,7 @@
 class Face3d;
 class Profile;
 class Transformed3d;
+class TreeDisplay;
 class TreeDisplayNode;
 class WorkPlane;
 struct SceneDocument;
@@ -44,6 +45,9 @@ public:
     // by Open or New), so that no command acts on them; the property menu follows when
     // anything was forgotten.
     void forgetAllBut(const SceneDocument& document);
+    // After the tree's nodes were made anew: paints the nodes of the selected items in their
+    // kind's colour and remembers them instead of the nodes that are gone.
+    void repaintNodes(const SceneDocument& document, TreeDisplay& tree);
 
     // The property menu is enabled when something of any kind is selected. It is worked out
     // again only where the selection says so, not after every change: profiles leave it be.

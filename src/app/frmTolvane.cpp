@@ -227,7 +227,7 @@ void frmTolvane::TreeView1_KeyDown(int KeyCode) {
             removeProfile(parsed.number, key);
         }
     }
-    TreeView1.rebuildTree(document);
+    rebuildTree();
     refreshMenus();
 }
 
@@ -379,6 +379,8 @@ void frmTolvane::refreshMenus() {
 
 void frmTolvane::rebuildTree() {
     TreeView1.rebuildTree(document);
+    selection.repaintNodes(document, TreeView1);
+    TreeView1.refresh();
 }
 
 void frmTolvane::addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,

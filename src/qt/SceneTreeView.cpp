@@ -6,6 +6,7 @@
 #include "qt/frmRebuildView.h"
 
 #include <QKeyEvent>
+#include <unordered_map>
 
 SceneTreeView::SceneTreeView(frmTolvane& form, QWidget* parent)
     : QTreeView(parent), form_(form), model_(new SceneTreeItemModel(form.getSceneTree(), this)) {
@@ -26,11 +27,70 @@ SceneTreeView::~SceneTreeView() {
 }
 
 void SceneTreeView::nodesAboutToChange() {
+    expanded_.clear();
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        const QModelIndex top = model_->index(row, 0);
+        if (isExpanded(top)) {
+            std::vector<std::string> texts;
+            rememberExpanded(top, SceneTreeItemModel::nodeOf(top).itemAddress(), texts);
+        }
+    }
     model_->nodesAboutToChange();
+}
+
+void SceneTreeView::rememberExpanded(const QModelIndex& index, const void* item,
+                                     std::vector<std::string>& texts) {
+    expanded_.push_back({item, texts});
+    for (int row = 0; row < model_->rowCount(index); ++row) {
+        const QModelIndex child = model_->index(row, 0, index);
+        if (isExpanded(child)) {
+            texts.push_back(SceneTreeItemModel::nodeOf(child).text);
+            rememberExpanded(child, item, texts);
+            texts.pop_back();
+        }
+    }
 }
 
 void SceneTreeView::nodesChanged() {
     model_->nodesChanged();
+    expandRemembered();
+}
+
+void SceneTreeView::expandRemembered() {
+    if (expanded_.empty()) {
+        return;
+    }
+    std::unordered_map<const void*, int> topRows;
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        topRows.emplace(SceneTreeItemModel::nodeOf(model_->index(row, 0)).itemAddress(), row);
+    }
+    for (const ExpandedNode& node : expanded_) {
+        const auto top = topRows.find(node.item);
+        if (node.item == nullptr || top == topRows.end()) {
+            continue; // its item has left the document
+        }
+        QModelIndex index = model_->index(top->second, 0);
+        for (const std::string& text : node.texts) {
+            if (model_->canFetchMore(index)) {
+                model_->fetchMore(index);
+            }
+            QModelIndex found;
+            for (int row = 0; row < model_->rowCount(index) && !found.isValid(); ++row) {
+                const QModelIndex child = model_->index(row, 0, index);
+                if (SceneTreeItemModel::nodeOf(child).text == text) {
+                    found = child;
+                }
+            }
+            index = found;
+            if (!index.isValid()) {
+                break;
+            }
+        }
+        if (index.isValid()) {
+            expand(index);
+        }
+    }
+    expanded_.clear();
 }
 
 void SceneTreeView::childrenAboutToBeMade(const SceneTreeNode& node, int count) {

@@ -58,6 +58,7 @@ TEST(frmTolvaneTree, DeleteRemovesTheClickedSolidAndTheTreeIsNumberedAfresh) {
 
 TEST(frmTolvaneTree, RemoveSolidLeavesTextsUntilAnyKeyRebuilds) {
     Window w;
+    w.form.TreeView1_NodeClick(w.node("s3"));
     w.form.removeSolid(1, "s1");
     ASSERT_EQ(w.topNodes().size(), 2u);
     EXPECT_EQ(w.topNodes()[0]->key, "s1");
@@ -67,6 +68,9 @@ TEST(frmTolvaneTree, RemoveSolidLeavesTextsUntilAnyKeyRebuilds) {
     EXPECT_EQ(w.topNodes()[0]->text, "Solid 1");
     EXPECT_EQ(w.topNodes()[1]->text, "Solid 2");
     EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
+    // The selected solid's new node keeps the selection's colour.
+    EXPECT_EQ(w.topNodes()[0]->BackColor, SceneTreeNode::white);
+    EXPECT_EQ(w.topNodes()[1]->BackColor, 255);
 }
 
 TEST(frmTolvaneTree, NodeClicksSelectByKeyAndChildNodesSelectNothing) {
@@ -74,6 +78,9 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyAndChildNodesSelectNothing) {
     w.form.TreeView1_NodeClick(w.node("f3-s2"));
     const auto face = w.form.getDocument().solids[1]->getFaces()[2];
     EXPECT_TRUE(face->isSelected());
+    EXPECT_EQ(w.node("f3-s2").BackColor, 16776960);
+
+    w.form.TreeView1_KeyDown('A'); // a rebuild keeps the face's node painted
     EXPECT_EQ(w.node("f3-s2").BackColor, 16776960);
 
     // The "Points" child: the whole selection cleared, nothing selected.

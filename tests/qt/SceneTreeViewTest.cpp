@@ -78,6 +78,20 @@ TEST(SceneTreeView, ShowsTheNodesWithTheirImagesAndMakesFacesOnExpand) {
     EXPECT_EQ(model.data(model.index(0, 0, face)).toString(), QString(" 2 3 7 6"));
 }
 
+TEST(SceneTreeView, ExpandedNodesStayExpandedWhenTheTreeIsRebuilt) {
+    Shown s;
+    SceneTreeView& tree = s.window.TreeView1();
+    tree.expand(s.model().index(0, 0));
+    tree.expand(s.model().index(1, 0, s.model().index(0, 0))); // "Faces"
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QApplication::sendEvent(&tree, &press);
+    const QModelIndex solid = s.model().index(0, 0);
+    EXPECT_TRUE(tree.isExpanded(solid));
+    EXPECT_TRUE(tree.isExpanded(s.model().index(1, 0, solid)));
+    EXPECT_FALSE(tree.isExpanded(s.model().index(0, 0, solid))); // "Points" was not
+    EXPECT_FALSE(tree.isExpanded(s.model().index(1, 0)));
+}
+
 TEST(SceneTreeView, AClickedNodeIsPaintedAndDeleteRemovesItsItem) {
     Shown s;
     s.clickRow(s.model().index(0, 0));
