@@ -380,8 +380,3 @@ void frmTolvane::refreshMenus() {
 void frmTolvane::rebuildTree() {
     TreeView1.rebuildTree(document);
 }
-
-void frmTolvane::addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
-                              const std::string& caption) {
-    TreeView1.addSolidNode(object, number, caption);
-}
