@@ -91,10 +91,7 @@ void FileCommands::Open() {
     }
     document_.solids = std::move(*list);
     // Workplanes and profiles stay in the document but lose their nodes until the next rebuild.
-    tree_.removeAllNodes();
-    for (size_t i = 0; i < document_.solids.size(); ++i) {
-        window_.addSolidNode(document_.solids[i], static_cast<int32_t>(i + 1), "Solid");
-    }
+    tree_.showSolids(document_.solids);
     window_.redrawAllViewports();
 }
 

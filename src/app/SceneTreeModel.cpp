@@ -96,13 +96,15 @@ void SceneTreeModel::removeNode(const std::string& key) {
         }
     }
     if (!key.empty()) {
-        renumberNodes(key.substr(0, 1));
+        const std::string letter = key.substr(0, 1);
+        keyCounts_[letter] = renumberNodes(letter) - 1;
     }
 }
 
 void SceneTreeModel::removeAllNodes() {
     const Change change(*this);
     root_->removeAllChildren();
+    keyCounts_.clear();
     SelectedItem.reset();
 }
 
@@ -112,12 +114,7 @@ void SceneTreeModel::rebuildTree(const SceneDocument& document) {
     }
     {
         const Change change(*this);
-        removeAllNodes();
-        int32_t n = 1;
-        for (const auto& object : document.solids) {
-            addSolidNode(object, n, "Solid");
-            ++n;
-        }
+        showSolids(document.solids);
         for (const auto& workPlane : document.workPlanes) {
             addWorkplaneNode(workPlane, "Workplane");
         }
@@ -130,10 +127,20 @@ void SceneTreeModel::rebuildTree(const SceneDocument& document) {
     }
 }
 
+void SceneTreeModel::showSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids) {
+    const Change change(*this);
+    removeAllNodes();
+    int32_t n = 1;
+    for (const auto& object : solids) {
+        addSolidNode(object, n, "Solid");
+        ++n;
+    }
+}
+
 std::shared_ptr<SceneTreeNode> SceneTreeModel::addTopNode(const std::string& letter,
                                                           const std::string& caption,
                                                           const std::string& image) {
-    const int32_t n = renumberNodes(letter);
+    const int32_t n = ++keyCounts_[letter];
     auto node = makeNode(caption + " " + std::to_string(n), image);
     node->key = letter + std::to_string(n);
     root_->appendChild(node);

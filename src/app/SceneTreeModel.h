@@ -5,8 +5,10 @@
 #include "interaction/TreeDisplay.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 class Profile;
 class SceneTreeListener;
@@ -16,7 +18,9 @@ struct SceneDocument;
 
 // The scene tree as a plain tree of nodes, in the order the tree shows them; the Qt tree
 // view mirrors it through a SceneTreeListener. Top-level keys are a letter and the item's
-// number among the nodes of its kind: "s" solids, "w" workplanes, "r" profiles.
+// number among the nodes of its kind: "s" solids, "w" workplanes, "r" profiles. Each node
+// joins the tree in a time of its own, whatever the tree holds, so that a document of
+// millions of objects opens in time proportional to its size.
 class SceneTreeModel : public TreeDisplay {
 public:
     // The one that shows the tree, or nullptr.
@@ -42,6 +46,9 @@ public:
     void removeAllNodes();
     // Every node made anew from the document, behind the rebuild notice.
     void rebuildTree(const SceneDocument& document);
+    // Every node replaced by the nodes of these solids, in one change; the document's
+    // workplanes and profiles are left without nodes.
+    void showSolids(const std::vector<std::shared_ptr<Transformed3d>>& solids);
 
     // A solid's node, numbered after the solids already in the tree, with its "Points" and
     // "Faces" lists; number is the solid's position in the document, which its face keys
@@ -71,5 +78,8 @@ private:
     std::shared_ptr<SceneTreeNode> root_ = std::make_shared<SceneTreeNode>();
     SceneTreeListener* listener_ = nullptr;
     int changeDepth_ = 0;
+    // How many top-level nodes carry a key of each letter; their keys are the letter and
+    // 1, 2, ... in tree order, so a new one at the end takes the next number.
+    std::map<std::string, int32_t> keyCounts_;
     frmRebuild notice_;
 };

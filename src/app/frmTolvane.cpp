@@ -382,8 +382,3 @@ void frmTolvane::rebuildTree() {
     selection.repaintNodes(document, TreeView1);
     TreeView1.refresh();
 }
-
-void frmTolvane::addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
-                              const std::string& caption) {
-    TreeView1.addSolidNode(object, number, caption);
-}

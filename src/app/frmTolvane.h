@@ -120,9 +120,6 @@ public:
     MainMenu& getMenus() { return menus; }
     // The tree anew from the document.
     void rebuildTree();
-    // A top-level node for a scene object, numbered as the object's position.
-    void addSolidNode(const std::shared_ptr<Transformed3d>& object, int32_t number,
-                      const std::string& caption);
 
     void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) { mouseMode = std::move(mode); }
     ClickHandleNothing& getMouseMode() const { return *mouseMode; }

@@ -94,9 +94,13 @@ std::error_code FileOverwriter::overwrite(const std::string& target,
 std::error_code FileOverwriter::writeInPlace(FileSystem::Handle handle,
                                              const FileSystem::Status& old,
                                              std::span<const uint8_t> content) const {
-    std::error_code error = writeAll(handle, content);
-    // Devices neither shrink nor keep anything to put on a disk.
-    if (!error && old.kind == FileSystem::Kind::Regular) {
+    // Devices neither make room, nor shrink, nor keep anything to put on a disk.
+    const bool regular = old.kind == FileSystem::Kind::Regular;
+    std::error_code error = regular ? reserve(handle, old.size, content.size()) : std::error_code();
+    if (!error) {
+        error = writeAll(handle, content);
+    }
+    if (!error && regular) {
         error = system_.truncate(handle, content.size());
         if (!error) {
             error = system_.sync(handle);
@@ -119,6 +123,9 @@ std::error_code FileOverwriter::fillTemporary(FileSystem::Handle handle,
         error = system_.setPermissions(handle, old->permissions);
     }
     if (!error) {
+        error = reserve(handle, 0, content.size());
+    }
+    if (!error) {
         error = writeAll(handle, content);
     }
     if (!error) {
@@ -126,6 +133,19 @@ std::error_code FileOverwriter::fillTemporary(FileSystem::Handle handle,
     }
     const std::error_code closed = system_.close(handle);
     return error ? error : closed;
+}
+
+std::error_code FileOverwriter::reserve(FileSystem::Handle handle, uint64_t oldSize,
+                                        uint64_t size) const {
+    const std::error_code error = system_.reserve(handle, size);
+    if (!error || error == std::errc::operation_not_supported) {
+        return {};
+    }
+    // A reservation cut short may have grown the file by part of the room.
+    if (size > oldSize) {
+        system_.truncate(handle, oldSize);
+    }
+    return error;
 }
 
 void FileOverwriter::removeStaleTemporaries(const std::string& folder,

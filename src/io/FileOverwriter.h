@@ -16,10 +16,15 @@
 // The replacement keeps what the user sees of the old file: its permission bits, its owner
 // and group where the system allows it to be given away, and a symbolic link stays a link
 // (the file it points to is replaced). Three targets are written in place instead, from the
-// start, cut to the new length; a failure there can leave the file part-written:
+// start, cut to the new length:
 // - a file with more than one name (a hard link), so that every name sees the new content;
 // - a writable file in a folder where no temporary may be created;
 // - anything that is not a regular file, such as a device, which a rename would replace.
+// A regular file written in place first has room reserved on the disk for the new content,
+// so that a full disk or a used-up quota fails the save while the file is still as it was;
+// a failure after that (an input/output error, or a file system that cannot reserve room)
+// can leave it part-written. A temporary has its room reserved the same way, so that a save
+// that does not fit stops before writing.
 // A file that exists but may not be written is a failure, as writing it in place would be.
 class FileOverwriter {
 public:
@@ -30,6 +35,10 @@ public:
 
 private:
     std::error_code writeAll(FileSystem::Handle handle, std::span<const uint8_t> bytes) const;
+    // Room on the disk for a regular file of size bytes that now holds oldSize bytes; a file
+    // system that cannot reserve is written all the same. On failure the file keeps its
+    // old length.
+    std::error_code reserve(FileSystem::Handle handle, uint64_t oldSize, uint64_t size) const;
     std::error_code writeInPlace(FileSystem::Handle handle, const FileSystem::Status& old,
                                  std::span<const uint8_t> content) const;
     // Gives a new temporary the old file's owner and permissions (old is null for a new

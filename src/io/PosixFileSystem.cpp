@@ -36,7 +36,6 @@ FileSystem::Status statusFrom(const struct stat& info) {
     return status;
 }
 
-// A call interrupted by a signal is repeated.
 // As many links as the system itself follows in one path.
 constexpr int maxLinks = 40;
 
@@ -50,6 +49,7 @@ std::optional<std::string> realPath(const std::string& path) {
     return std::string(resolved.get());
 }
 
+// A call interrupted by a signal is repeated.
 template <class Call> long retried(Call call) {
     long result;
     do {
@@ -175,6 +175,15 @@ std::error_code PosixFileSystem::write(Handle handle, std::span<const uint8_t> b
 
 std::error_code PosixFileSystem::truncate(Handle handle, uint64_t size) {
     return checked(retried([&] { return ::ftruncate(handle, static_cast<off_t>(size)); }));
+}
+
+std::error_code PosixFileSystem::reserve(Handle handle, uint64_t size) {
+    // Linux's own call: where the file system cannot reserve, posix_fallocate would write
+    // zeros instead, reading the file first, which a handle opened only for writing cannot.
+    if (size == 0) {
+        return {};
+    }
+    return checked(retried([&] { return ::fallocate(handle, 0, 0, static_cast<off_t>(size)); }));
 }
 
 std::error_code PosixFileSystem::setOwner(Handle handle, uint32_t owner, uint32_t group) {

@@ -19,6 +19,7 @@ public:
                          size_t& count) override;
     std::error_code write(Handle handle, std::span<const uint8_t> bytes, size_t& count) override;
     std::error_code truncate(Handle handle, uint64_t size) override;
+    std::error_code reserve(Handle handle, uint64_t size) override;
     std::error_code setOwner(Handle handle, uint32_t owner, uint32_t group) override;
     std::error_code setPermissions(Handle handle, uint32_t permissions) override;
     std::error_code sync(Handle handle) override;

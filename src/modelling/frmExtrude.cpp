@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -166,6 +168,20 @@ void frmExtrude::mnuExtrude_Click() {
                               "step may not exceed " +
                                   std::to_string(ExtrusionSteps::maxMatrices) + ".");
         return;
+    }
+    // Each matrix of the sweep adds two points and two faces for every point of the curve,
+    // the faces one pair fewer, and the caps add two.
+    const int64_t matrices = static_cast<int64_t>(step.size()) * (r + int64_t{1});
+    const int64_t curvePoints = profile_->getPointCount();
+    const int64_t faces = 2 * (curvePoints - 1) * matrices + (chkCapEnds.Value ? 2 : 0);
+    const int64_t points = 2 * curvePoints * matrices;
+    for (const auto& [count, what] : {std::pair{faces, "faces"}, std::pair{points, "points"}}) {
+        if (count > maxPointsOrFaces) {
+            refuse(txtIncrements, "The extrusion would have " + std::to_string(count) + " " + what +
+                                      "; at most " + std::to_string(maxPointsOrFaces) +
+                                      " can be made.");
+            return;
+        }
     }
 
     normal_ = E;

@@ -54,6 +54,13 @@ public:
 
     std::string caption() const override { return "Extrude"; }
 
+    // The most points, and the most faces, an extrusion may have. A swept point and a face
+    // together take about 430 bytes while the extrusion is made (point records, face
+    // objects and their corner lists, the sweep's working copies), so the largest extrusion
+    // needs about 4 GB, which an ordinary machine holds; larger ones are refused before
+    // anything is made (the sweep's 32-bit point numbers would also run out at 2^31).
+    static constexpr int64_t maxPointsOrFaces = 10'000'000;
+
     // Takes the profile and computes its unit normal; a missing profile or one without a
     // normal is reported and closes the dialog.
     void initialize(const std::shared_ptr<Profile>& profile);

@@ -45,6 +45,11 @@ public:
                                  size_t& count) = 0;
     virtual std::error_code write(Handle handle, std::span<const uint8_t> bytes, size_t& count) = 0;
     virtual std::error_code truncate(Handle handle, uint64_t size) = 0;
+    // Gives the file's first size bytes their room on the disk, growing it with zero bytes
+    // to that size when it is shorter, so that writing them cannot run out of space; the
+    // bytes it holds are kept. operation_not_supported where the file system cannot promise
+    // room.
+    virtual std::error_code reserve(Handle handle, uint64_t size) = 0;
     virtual std::error_code setOwner(Handle handle, uint32_t owner, uint32_t group) = 0;
     virtual std::error_code setPermissions(Handle handle, uint32_t permissions) = 0;
     // Puts the file's content on the disk.

@@ -159,3 +159,34 @@ TEST(FileOverwriter, WritesInPlaceOnlyWhereNoTemporaryMayBeMade) {
               std::errc::is_a_directory);
     EXPECT_EQ(folder.entries().size(), 1u);
 }
+
+TEST(FileOverwriter, AFullDiskStopsASaveInPlaceBeforeItChangesTheFile) {
+    TempFolder folder;
+    const std::string file = folder.file("scene.tvm");
+    const std::string second = folder.file("second name.tvm");
+    const Bytes larger(250 * 1024, 'l');
+    const uint64_t growth = larger.size() - oldContent.size();
+    for (const bool linked : {true, false}) {
+        for (const uint64_t room : {growth - 1, growth}) {
+            put(file, oldContent);
+            FaultyFileSystem disk;
+            disk.leaveRoom(room);
+            if (linked) {
+                fs::create_hard_link(file, second);
+            } else {
+                disk.failAll(FaultyFileSystem::Call::createNew, std::errc::permission_denied);
+            }
+            const std::error_code error = FileOverwriter(disk).overwrite(file, larger);
+            const bool fits = room == growth;
+            EXPECT_EQ(error, fits ? std::error_code()
+                                  : std::make_error_code(std::errc::no_space_on_device))
+                << linked << room;
+            EXPECT_EQ(contentOf(file), fits ? larger : oldContent) << linked << room;
+            if (linked) {
+                EXPECT_TRUE(fs::equivalent(file, second)) << room;
+                fs::remove(second);
+            }
+            EXPECT_EQ(folder.entries().size(), 1u) << linked << room;
+        }
+    }
+}

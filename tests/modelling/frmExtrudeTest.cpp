@@ -12,6 +12,7 @@
 #include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -311,4 +312,40 @@ TEST_F(frmExtrudeTest, PreviewDrawsTheUnitNormalInCyanInEveryViewport) {
     }
     EXPECT_FALSE(form.isClosed());
     EXPECT_EQ(form.getNormal().getAmplitude(), 1.0f);
+}
+
+TEST(frmExtrude, AnExtrusionTooLargeToHoldIsRefusedBeforeItIsMade) {
+    ScriptedPrompts prompts;
+    Host dialogs;
+    ScriptedColorChooser colors;
+    PreviewViewports viewports;
+    // 400 corners: 12,500 subdivisions make 10,000,000 side faces on 10,025,000 points.
+    std::vector<Point4> corners;
+    for (int k = 0; k < 400; ++k) {
+        const double t = 6.283185307179586 * k / 400;
+        corners.push_back({static_cast<float>(std::cos(t)), static_cast<float>(std::sin(t)), 0, 1});
+    }
+    const struct {
+        bool caps;
+        std::string message;
+    } cases[] = {
+        {true, "The extrusion would have 10000002 faces; at most 10000000 can be made."},
+        {false, "The extrusion would have 10025000 points; at most 10000000 can be made."},
+    };
+    for (const auto& [caps, message] : cases) {
+        prompts.forget();
+        frmExtrude form(dialogs, colors, viewports);
+        form.initialize(closedProfile(corners));
+        form.setChecked("chkCapEnds", caps);
+        form.typeText("txtIncrements", "12500");
+        form.press("mnuExtrude");
+        ASSERT_EQ(prompts.messages().size(), 1u) << caps;
+        EXPECT_EQ(prompts.messages()[0].text, message);
+        EXPECT_EQ(prompts.messages()[0].title, "Invalid Extrusion Input");
+        EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Information);
+        EXPECT_EQ(form.txtIncrements.Text, "") << caps;
+        EXPECT_TRUE(form.txtIncrements.Focused) << caps;
+        EXPECT_FALSE(form.isClosed()) << caps;
+        EXPECT_FALSE(form.getExtrusion()) << caps;
+    }
 }

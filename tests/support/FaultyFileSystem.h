@@ -2,12 +2,16 @@
 
 #include "io/PosixFileSystem.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <map>
 #include <optional>
+#include <unistd.h>
 
 // The system's own files, but a call that the test names fails as though the system had
-// refused it. A failing close still closes, as the system's does.
+// refused it. A failing close still closes, as the system's does. The disk may also be
+// given less room than it has.
 class FaultyFileSystem : public FileSystem {
 public:
     enum class Call {
@@ -21,6 +25,7 @@ public:
         read,
         write,
         truncate,
+        reserve,
         setOwner,
         setPermissions,
         sync,
@@ -36,6 +41,9 @@ public:
     // error.
     void failCallNumber(size_t number) { failingNumber_ = number; }
     size_t callCount() const { return calls_; }
+    // The disk has room for this many more bytes: a write or reservation that would grow a
+    // file beyond it fails with no space left, a write after writing what fits.
+    void leaveRoom(uint64_t bytes) { room_ = bytes; }
 
     std::error_code status(const std::string& path, Status& status) override {
         return unlessFailing(Call::status, [&] { return real().status(path, status); });
@@ -65,10 +73,32 @@ public:
     }
     std::error_code write(Handle handle, std::span<const uint8_t> bytes, size_t& count) override {
         count = 0;
-        return unlessFailing(Call::write, [&] { return real().write(handle, bytes, count); });
+        return unlessFailing(Call::write, [&] {
+            const off_t at = ::lseek(handle, 0, SEEK_CUR); // devices have no place
+            const uint64_t grows =
+                growth(handle, at < 0 ? 0 : static_cast<uint64_t>(at) + bytes.size());
+            if (grows > room_) {
+                if (grows - room_ >= bytes.size()) {
+                    return std::make_error_code(std::errc::no_space_on_device);
+                }
+                bytes = bytes.first(bytes.size() - (grows - room_));
+            }
+            room_ -= std::min(grows, room_);
+            return real().write(handle, bytes, count);
+        });
     }
     std::error_code truncate(Handle handle, uint64_t size) override {
         return unlessFailing(Call::truncate, [&] { return real().truncate(handle, size); });
+    }
+    std::error_code reserve(Handle handle, uint64_t size) override {
+        return unlessFailing(Call::reserve, [&] {
+            const uint64_t grows = growth(handle, size);
+            if (grows > room_) {
+                return std::make_error_code(std::errc::no_space_on_device);
+            }
+            room_ -= grows;
+            return real().reserve(handle, size);
+        });
     }
     std::error_code setOwner(Handle handle, uint32_t owner, uint32_t group) override {
         return unlessFailing(Call::setOwner, [&] { return real().setOwner(handle, owner, group); });
@@ -105,6 +135,13 @@ private:
         return error ? error : realCall();
     }
 
+    // How many bytes the file grows by when it reaches end.
+    static uint64_t growth(Handle handle, uint64_t end) {
+        Status status;
+        real().statusOf(handle, status);
+        return end > status.size ? end - status.size : 0;
+    }
+
     std::error_code fault(Call call) {
         const size_t number = calls_++;
         if (failingNumber_ == number) {
@@ -118,4 +155,5 @@ private:
     std::map<Call, std::errc> failing_;
     std::optional<size_t> failingNumber_;
     size_t calls_ = 0;
+    uint64_t room_ = std::numeric_limits<uint64_t>::max();
 };
