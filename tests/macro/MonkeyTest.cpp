@@ -28,15 +28,18 @@ long fromEnvironment(const char* name, long fallback) {
 // Plays the monkey of one seed in an editor without a screen, checking the document after
 // every action of the window. The macro it played is kept when asked, and always when
 // something went wrong (an exception got out, a line did not fit, an invariant broke); the
-// failure names it.
+// failure names it. Each seed saves its files in a folder of its own, which it starts empty, so
+// that its macro replays alike in any empty sandbox.
 std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool keep) {
-    fs::create_directories(folder);
+    const fs::path files = folder / ("monkey-" + std::to_string(seed));
+    fs::remove_all(files);
+    fs::create_directories(files);
     const fs::path macroPath = folder / ("monkey-" + std::to_string(seed) + ".macro");
     std::string failure;
     {
         std::ofstream file(macroPath);
         MacroWriter writer(file);
-        Monkey monkey(seed, actions, folder.string());
+        Monkey monkey(seed, actions, files.string());
         std::array<BlankCanvas, 4> canvases;
         HeadlessEditor editor(monkey, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
         editor.player.echoTo(&writer);
@@ -54,11 +57,12 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
     if (failure.empty()) {
         if (!keep) {
             fs::remove(macroPath);
+            fs::remove_all(files);
         }
         return "";
     }
     return "seed " + std::to_string(seed) + ": " + failure + " (replay with korvan-cli replay " +
-           macroPath.string() + ")";
+           macroPath.string() + " --sandbox EMPTY-FOLDER)";
 }
 
 } // namespace
