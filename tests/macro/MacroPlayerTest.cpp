@@ -51,7 +51,8 @@ TEST(MacroPlayer, StopsAtALineThatDoesNotFitOrAnExpectationThatFails) {
          "line 1: expected the message \"Wrong\", found \"" + noProfile + "\""},
         {"menu \"&Create\" \"&Extrusion\"\nexpect message \"Wrong\"\nmessage ok\n",
          "line 2: expected the message \"Wrong\", found \"" + noProfile + "\""},
-        {"expect message \"" + noProfile + "\"\nresize 800 600\nresize 900 600\n",
+        {"expect message \"" + noProfile +
+             "\"\nresize 800 600\nmenu \"&Create\" \"&Extrusion\"\nmessage ok\n",
          "line 1: expected the message \"" + noProfile + "\", but no message box came"},
         {"resize 800 600\nexpect message \"" + noProfile + "\"\n",
          "line 2: expected the message \"" + noProfile + "\", but no message box came"},

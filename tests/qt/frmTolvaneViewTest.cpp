@@ -122,8 +122,8 @@ TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
 
     HeardKeys heard;
     form.setUserEventListener(&heard);
-    for (QWidget* target : {static_cast<QWidget*>(&window.picOrtho(3)),
-                            static_cast<QWidget*>(&window.TreeView1())}) {
+    for (QWidget* target :
+         {static_cast<QWidget*>(&window.picOrtho(3)), static_cast<QWidget*>(&window.TreeView1())}) {
         for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Control, Qt::Key_A,
                                   Qt::Key_Enter, Qt::Key_Delete}) {
             QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
