@@ -151,13 +151,11 @@ TEST_F(CliEndToEnd, DefaultRenderIsWhatTheEditorShowsAtStartUpWithoutFacelessObj
 TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
     const std::string bytes = readAll(path_);
     std::ofstream(dir_ / "cut.tvm", std::ios::binary) << bytes.substr(0, bytes.size() / 2);
-    fs::create_symlink("loop.tvm", dir_ / "loop.tvm");
     fs::create_symlink("/dev/zero", dir_ / "zero.tvm");
     ASSERT_EQ(::mkfifo((dir_ / "pipe.tvm").c_str(), 0600), 0);
     fs::create_symlink("/dev/full", dir_ / "full.png");
     std::ofstream(dir_ / "diamond.txt") << diamond;
     std::ofstream(dir_ / "pair.txt") << "0 0 0\n1 0\n1 0 1\n0 0 0\n";
-    std::ofstream(dir_ / "word.txt") << "0 0 0\n1 0 0\n1 0 1e39\n0 0 0\n";
     std::ofstream(dir_ / "stop.macro") << "resize 800 600\ndialog \"Extrude\" press mnuCancel\n";
     std::ofstream(dir_ / "odd.macro") << "resize 800 600\njump\x7f\xff 1\n";
     std::ofstream(dir_ / "resize.macro") << "resize 800 600\n";
@@ -179,7 +177,6 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
     const std::string out = " -o " + at("out.tvm");
     const std::string extrude = "extrude " + at("diamond.txt") + out;
     const std::string replay = "replay " + at("stop.macro") + out;
-    const std::string usage = "invalid value '";
     struct Case {
         std::string arguments;
         std::string message;
@@ -189,7 +186,6 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
     const std::vector<Case> cases = {
         {"render " + at("missing.tvm") + " -o " + at("out.png"),
          file + "missing.tvm': no such file or directory\n"},
-        {"info " + at("loop.tvm"), file + "loop.tvm': too many levels of symbolic links\n"},
         {"info " + at("zero.tvm"), file + "zero.tvm': not a regular file\n"},
         {"info " + at("pipe.tvm"), file + "pipe.tvm': not a regular file\n"},
         {"info " + at("cut.tvm"),
@@ -198,8 +194,6 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
          cannot("cannot write", "full.png", ": no space left on device")},
         {"info " + scene_, "korvan-cli: cannot write to standard output: no space left on device\n",
          1, "/dev/full"},
-        {"render " + scene_ + " -o " + at("out.png") + " --size 10x",
-         "korvan-cli: " + usage + "10x' for --size (expected WIDTHxHEIGHT, each 1 to 16384)\n", 2},
         {"render " + scene_ + " -o " + at("out.jpg"),
          cannot("output file", "out.jpg", " must end in .png, .bmp or .svg"), 2},
         {"paint " + scene_, "korvan-cli: unknown command 'paint' (try --help)\n", 2},
@@ -211,16 +205,9 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
         {"extrude " + at("pair.txt") + out,
          cannot("cannot read", "pair.txt",
                 " line 2: expected three numbers x y z, found 2 values")},
-        {"extrude " + at("word.txt") + out,
-         cannot("cannot read", "word.txt",
-                " line 3: value 3 is not a number that a single float can hold")},
         {"extrude " + at("big/huge.txt") + out,
          cannot("cannot read", "big/huge.txt", ": a profile file may not exceed 4194304 bytes")},
         {"extrude " + at("big") + out, file + "big': is a directory\n"},
-        {extrude + " --diffuse 1,2",
-         "korvan-cli: " + usage +
-             "1,2' for --diffuse (expected R,G,B, each a whole number 0 to 255)\n",
-         2},
         {extrude + " --view top", "korvan-cli: unknown option '--view' (try --help)\n", 2},
         {"extrude " + at("diamond.txt"), "korvan-cli: extrude needs an output file: -o OUT.tvm\n",
          2},
@@ -231,8 +218,6 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
          cannot("cannot read", "odd.macro", " line 2: unknown action jump??")},
         {"replay " + at("big/huge.macro") + out,
          cannot("cannot read", "big/huge.macro", " line 1: longer than 1048576 bytes")},
-        {"replay " + at("big") + out, file + "big': is a directory\n"},
-        {"replay " + at("pipe.tvm") + out, file + "pipe.tvm': not a regular file\n"},
         {"replay " + at("zero.tvm") + out, file + "zero.tvm': not a regular file\n"},
         {"replay " + at("resize.macro") + out + " --svg-dir " + at("none"),
          cannot("cannot use", "none", " (--svg-dir): no such file or directory")},
