@@ -347,10 +347,11 @@ as the editor's own file dialogs produce; so must OUT.tvm.
 
 Exit status:
   0  success
-  1  the work failed: a scene or profile cannot be read (missing, not a
-     regular file, not a .tvm name, corrupt, malformed), the extrusion is
-     refused (its message is the dialog's own), a macro stops, or the output or standard
-     output cannot be written; an existing OUT is then left as it was
+  1  the work failed: a scene, profile or macro cannot be read (missing, not
+     a regular file, not a .tvm name, corrupt, malformed), the extrusion is
+     refused (its message is the dialog's own), a macro stops, a folder given
+     to --svg-dir or --sandbox is none, or an output or standard output cannot
+     be written; every existing output is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
      missing input or output, wrong output extension
 Every error is reported as one line "korvan-cli: ..." on standard error. What the

@@ -51,11 +51,11 @@ void MacroPlayer::stop(const std::string& why) const {
 std::optional<MacroAction> MacroPlayer::next(const Waiting& waiting) {
     while (true) {
         std::optional<MacroAction> action = source_.next(waiting);
-        if (action && echo_ != nullptr) {
-            echo_->write(*action);
-        }
         if (!action) {
             return action;
+        }
+        if (echo_ != nullptr) {
+            echo_->write(*action);
         }
         const auto* expect = std::get_if<macro::Expect>(&*action);
         if (expect == nullptr) {
