@@ -1,8 +1,10 @@
 #include "support/Monkey.h"
 #include "app/EventGuard.h"
 #include "app/frmTolvane.h"
+#include "io/PosixFileSystem.h"
 #include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
+#include "macro/MacroFile.h"
 #include "macro/MacroWriter.h"
 #include "scene/Face3d.h"
 #include "scene/Transformed3d.h"
@@ -86,6 +88,29 @@ TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
     if (keep == nullptr && !HasFailure()) {
         fs::remove_all(folder);
     }
+}
+
+// A kept macro plays again in an empty sandbox, though the files it saved are still where
+// it was made.
+TEST(Monkey, AKeptMacroReplaysInAnEmptySandbox) {
+    const fs::path folder =
+        fs::temp_directory_path() / ("korvan-monkey-kept-" + std::to_string(getpid()));
+    for (uint64_t seed = 1; seed <= 3; ++seed) {
+        ASSERT_EQ(playMonkey(seed, 1000, folder, true), "");
+        const fs::path sandbox = folder / ("sandbox-" + std::to_string(seed));
+        fs::create_directories(sandbox);
+        MacroFile macro = MacroFile::open(PosixFileSystem::instance(),
+                                          (folder / ("monkey-" + std::to_string(seed) + ".macro")));
+        std::array<BlankCanvas, 4> canvases;
+        HeadlessEditor editor(macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        editor.player.setSandbox(sandbox.string());
+        try {
+            editor.player.playAll();
+        } catch (const MacroPlayer::Error& error) {
+            ADD_FAILURE() << "seed " << seed << ": " << error.what();
+        }
+    }
+    fs::remove_all(folder);
 }
 
 TEST(DocumentInvariants, NameWhatABrokenDocumentGotWrong) {
