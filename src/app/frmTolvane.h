@@ -134,6 +134,9 @@ public:
 
     // The key code TreeView1_KeyDown acts on.
     static constexpr int keyCodeDelete = 46;
+    // The client area's size when the editor starts, before the user resizes the window.
+    static constexpr int startUpClientWidth = 1280;
+    static constexpr int startUpClientHeight = 781;
 
 private:
     template <class Item>

@@ -5,13 +5,13 @@
 #include "cli/HeadlessExtrusion.h"
 #include "cli/ProfileFile.h"
 #include "cli/SvgCanvas.h"
-#include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
 #include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
+#include "macro/MessageText.h"
 #include "qt/QtCanvas.h"
 #include "render/ViewportRenderer.h"
 
@@ -26,16 +26,6 @@
 #include <system_error>
 
 namespace {
-
-// A control character in a file name must not split the message over several lines.
-std::string oneLine(std::string message) {
-    for (char& c : message) {
-        if (static_cast<unsigned char>(c) < 0x20) {
-            c = '?';
-        }
-    }
-    return message;
-}
 
 std::string jsonString(const std::string& text) {
     std::string json = "\"";
@@ -103,10 +93,10 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
         }
         return 0;
     } catch (const CliError& error) {
-        err << "korvan-cli: " << oneLine(error.what()) << '\n';
+        err << "korvan-cli: " << MessageText::oneLine(error.what()) << '\n';
         return error.exitStatus();
     } catch (const std::exception& error) {
-        err << "korvan-cli: " << oneLine(error.what()) << '\n';
+        err << "korvan-cli: " << MessageText::oneLine(error.what()) << '\n';
         return CliError::failure;
     } catch (...) {
         err << "korvan-cli: unexpected error\n";
@@ -177,7 +167,8 @@ void CliApp::render(const CliOptions& options) const {
         // its own; only a fatal error, which ends the process, gets through.
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
             if (type == QtFatalMsg) {
-                std::fprintf(stderr, "korvan-cli: %s\n", oneLine(text.toStdString()).c_str());
+                std::fprintf(stderr, "korvan-cli: %s\n",
+                             MessageText::oneLine(text.toStdString()).c_str());
             }
         });
         application.emplace(argc, argv);
@@ -217,7 +208,7 @@ void CliApp::extrude(const CliOptions& options, std::ostream& err) const {
     }
     const HeadlessExtrusion::Result made = HeadlessExtrusion::run(profile, options.extrusion);
     for (const std::string& message : made.messages) {
-        err << "korvan-cli: warning: " << oneLine(message) << '\n';
+        err << "korvan-cli: warning: " << MessageText::oneLine(message) << '\n';
     }
     solids.push_back(made.extrusion);
     TavrinMeshIO meshIO(files_);
@@ -228,51 +219,76 @@ void CliApp::extrude(const CliOptions& options, std::ostream& err) const {
     }
 }
 
-void CliApp::replay(const CliOptions& options) const {
-    const std::string name = CliError::quoted(options.input);
-    // A macro of a long session is large, but not this large.
-    constexpr uint64_t maxBytes = 512ULL * 1024 * 1024;
+void CliApp::requireFolder(const std::string& folder, const std::string& option) const {
     FileSystem::Status status;
-    if (!files_.status(options.input, status) && status.kind == FileSystem::Kind::Regular &&
-        status.size > maxBytes) {
-        throw CliError("cannot read " + name + ": a macro may not exceed " +
-                           std::to_string(maxBytes) + " bytes",
+    std::error_code error = files_.status(folder, status);
+    if (!error && status.kind != FileSystem::Kind::Directory) {
+        error = std::make_error_code(std::errc::not_a_directory);
+    }
+    if (error) {
+        throw CliError("cannot use " + CliError::quoted(folder) + " (" + option +
+                           "): " + CliError::reason(error),
                        CliError::failure);
     }
-    std::vector<uint8_t> bytes;
-    if (const std::error_code error = FileBytes::read(files_, options.input, 0, bytes)) {
-        throw CliError("cannot open " + name + ": " + CliError::reason(error), CliError::failure);
+}
+
+void CliApp::replay(const CliOptions& options) const {
+    const std::string name = CliError::quoted(options.input);
+    if (!options.svgDir.empty()) {
+        requireFolder(options.svgDir, "--svg-dir");
     }
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (!options.sandbox.empty()) {
+        requireFolder(options.sandbox, "--sandbox");
+    }
     std::optional<MacroFile> macro;
     try {
-        macro.emplace(text);
-    } catch (const MacroSyntax::Error& error) {
-        throw CliError("cannot read " + name + " " + error.what(), CliError::failure);
+        macro.emplace(MacroFile::open(files_, options.input));
+    } catch (const std::system_error& error) {
+        throw CliError("cannot open " + name + ": " + CliError::reason(error.code()),
+                       CliError::failure);
     }
 
     std::array<SvgCanvas, 4> canvases{SvgCanvas(0, 0), SvgCanvas(0, 0), SvgCanvas(0, 0),
                                       SvgCanvas(0, 0)};
     HeadlessEditor editor(*macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+    editor.player.setSandbox(options.sandbox);
     try {
         editor.player.playAll();
     } catch (const MacroPlayer::Error& error) {
-        throw CliError("replay of " + name + " stopped: " + error.what(), CliError::failure);
+        throw CliError((error.unreadable() ? "cannot read " + name + " "
+                                           : "replay of " + name + " stopped: ") +
+                           error.what(),
+                       CliError::failure);
     }
+
+    // Every output is made complete before the first one replaces anything.
+    std::vector<std::vector<uint8_t>> contents;
+    std::vector<FileOverwriter::Replacement> replacements;
     if (!options.output.empty()) {
         TavrinMeshIO meshIO(files_);
-        std::string path = options.output;
-        if (!meshIO.saveFile(editor.form.getDocument().solids, path)) {
+        auto content = meshIO.savedContent(editor.form.getDocument().solids, options.output);
+        if (!content) {
             throw CliError("cannot write " + CliError::quoted(options.output) + ": " +
                                CliError::reason(meshIO.getLastError()),
                            CliError::failure);
         }
+        contents.push_back(std::move(*content));
+        replacements.push_back({options.output, {}});
     }
     if (!options.svgDir.empty()) {
         for (size_t i = 0; i < canvases.size(); ++i) {
             const std::string svg = canvases[i].svg();
-            writeOutput(options.svgDir + "/viewport" + std::to_string(i) + ".svg",
-                        {reinterpret_cast<const uint8_t*>(svg.data()), svg.size()});
+            contents.emplace_back(svg.begin(), svg.end());
+            replacements.push_back({options.svgDir + "/viewport" + std::to_string(i) + ".svg", {}});
         }
+    }
+    for (size_t i = 0; i < replacements.size(); ++i) {
+        replacements[i].content = contents[i];
+    }
+    size_t failed = 0;
+    if (const std::error_code error = FileOverwriter(files_).overwriteAll(replacements, failed)) {
+        throw CliError("cannot write " + CliError::quoted(replacements[failed].target) + ": " +
+                           CliError::reason(error),
+                       CliError::failure);
     }
 }

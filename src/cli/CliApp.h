@@ -31,6 +31,8 @@ private:
     // Notes the dialog shows without refusing go to err as warnings.
     void extrude(const CliOptions& options, std::ostream& err) const;
     void replay(const CliOptions& options) const;
+    // Throws unless folder is one; option names where it came from.
+    void requireFolder(const std::string& folder, const std::string& option) const;
 
     FileSystem& files_;
 };

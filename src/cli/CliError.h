@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cctype>
+#include "macro/MessageText.h"
+
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -19,13 +20,7 @@ public:
     // The pieces messages are made of: a file name as messages show it, and the system's
     // description of an error as the end of a sentence.
     static std::string quoted(const std::string& path) { return "'" + path + "'"; }
-    static std::string reason(const std::error_code& error) {
-        std::string text = error.message();
-        if (!text.empty()) {
-            text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
-        }
-        return text;
-    }
+    static std::string reason(const std::error_code& error) { return MessageText::reason(error); }
 
 private:
     int exitStatus_;

@@ -230,10 +230,10 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         if (arg == "-o") {
             options.output = value();
         } else if (options.command == Command::Replay) {
-            if (arg != "--svg-dir") {
+            if (arg != "--svg-dir" && arg != "--sandbox") {
                 throw usageError("unknown option '" + arg + "' (try --help)");
             }
-            options.svgDir = value();
+            (arg == "--svg-dir" ? options.svgDir : options.sandbox) = value();
         } else if (!(options.command == Command::Render
                          ? parseRenderOption(arg, value, options)
                          : parseExtrudeOption(arg, value, options.extrusion))) {
@@ -271,7 +271,7 @@ std::string CliOptions::helpText() {
     return R"(Usage: korvan-cli render SCENE.tvm -o OUT [options]
        korvan-cli info SCENE.tvm
        korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
-       korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR]
+       korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR] [--sandbox DIR]
        korvan-cli -h | --help
 
 Draws, describes or makes Tavrin Mesh Files (.tvm) without opening the editor.
@@ -296,10 +296,15 @@ Commands:
            dialog and answer runs as in the editor. -o OUT.tvm saves the solids
            the macro ends with, as File > Save would; --svg-dir DIR writes each
            viewport's last drawing to DIR/viewport0.svg ... viewport3.svg, in
-           the form render writes. A line that does not fit what it meets (a
-           dialog that is not open, a disabled menu item, an unknown control)
-           stops the replay with a message naming the line, and nothing is
-           written.
+           the form render writes; every output is complete before the first
+           one is replaced. A line that does not fit what it meets (a dialog
+           that is not open, a disabled menu item, an unknown control) stops the
+           replay with a message naming the line, and nothing is written.
+           The macro's own file dialogs open and save the files its lines
+           name, File > Save included: a replay writes where the macro was
+           recorded. --sandbox DIR takes every file the macro names from DIR
+           instead (the file of the same name in DIR), reading and writing
+           nothing elsewhere.
 
 Options of render (they may come before or after SCENE.tvm):
   -o OUT         output file ending in .png, .bmp or .svg (required)
@@ -342,10 +347,11 @@ as the editor's own file dialogs produce; so must OUT.tvm.
 
 Exit status:
   0  success
-  1  the work failed: a scene or profile cannot be read (missing, not a
-     regular file, not a .tvm name, corrupt, malformed), the extrusion is
-     refused (its message is the dialog's own), a macro stops, or the output or standard
-     output cannot be written; an existing OUT is then left as it was
+  1  the work failed: a scene, profile or macro cannot be read (missing, not
+     a regular file, not a .tvm name, corrupt, malformed), the extrusion is
+     refused (its message is the dialog's own), a macro stops, a folder given
+     to --svg-dir or --sandbox is none, or an output or standard output cannot
+     be written; every existing output is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
      missing input or output, wrong output extension
 Every error is reported as one line "korvan-cli: ..." on standard error. What the

@@ -32,9 +32,10 @@ struct CliOptions {
     };
 
     Command command = Command::Help;
-    std::string input;  // the scene (render, info), the profile (extrude) or the macro (replay)
-    std::string output; // render and extrude; for replay the scene to save, or ""
-    std::string svgDir; // replay: where each viewport's drawing goes, or ""
+    std::string input;   // the scene (render, info), the profile (extrude) or the macro (replay)
+    std::string output;  // render and extrude; for replay the scene to save, or ""
+    std::string svgDir;  // replay: where each viewport's drawing goes, or ""
+    std::string sandbox; // replay: the folder every file the macro names is taken from, or ""
     Format format = Format::Png;
     int view = KorvanOpsConsts::viewIsometric;
     bool parallel = false;

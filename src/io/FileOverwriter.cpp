@@ -41,11 +41,40 @@ bool isPermissionError(const std::error_code& error) {
 
 std::error_code FileOverwriter::overwrite(const std::string& target,
                                           std::span<const uint8_t> content) const {
-    std::string destination;
-    if (const std::error_code error = system_.resolve(target, destination)) {
+    size_t failed = 0;
+    const Replacement replacement{target, content};
+    return overwriteAll({&replacement, 1}, failed);
+}
+
+std::error_code FileOverwriter::overwriteAll(std::span<const Replacement> replacements,
+                                             size_t& failed) const {
+    std::vector<Staged> staged(replacements.size());
+    for (failed = 0; failed < replacements.size(); ++failed) {
+        if (const std::error_code error = stage(replacements[failed], staged[failed])) {
+            for (size_t i = 0; i < failed; ++i) {
+                discard(staged[i]);
+            }
+            return error;
+        }
+    }
+    std::error_code first;
+    for (size_t i = 0; i < staged.size(); ++i) {
+        const std::error_code error = commit(staged[i]);
+        if (error && !first) {
+            first = error;
+            failed = i;
+        }
+    }
+    return first;
+}
+
+std::error_code FileOverwriter::stage(const Replacement& replacement, Staged& staged) const {
+    std::string& destination = staged.destination;
+    staged.content = replacement.content;
+    if (const std::error_code error = system_.resolve(replacement.target, destination)) {
         return error;
     }
-    FileSystem::Status old;
+    FileSystem::Status& old = staged.old;
     const std::error_code missing = system_.status(destination, old);
     if (missing && missing != std::errc::no_such_file_or_directory) {
         return missing;
@@ -60,7 +89,8 @@ std::error_code FileOverwriter::overwrite(const std::string& target,
             return error;
         }
         if (old.kind != FileSystem::Kind::Regular || old.links > 1) {
-            return writeInPlace(inPlace, old, content);
+            staged.inPlace = inPlace;
+            return {};
         }
     }
 
@@ -72,7 +102,8 @@ std::error_code FileOverwriter::overwrite(const std::string& target,
     FileSystem::Handle handle = -1;
     const std::error_code created = system_.createNew(temporary, handle);
     if (created && !missing && isPermissionError(created)) {
-        return writeInPlace(inPlace, old, content);
+        staged.inPlace = inPlace;
+        return {};
     }
     if (!missing) {
         system_.close(inPlace);
@@ -80,15 +111,34 @@ std::error_code FileOverwriter::overwrite(const std::string& target,
     if (created) {
         return created;
     }
-    const std::error_code error = fillTemporary(handle, missing ? nullptr : &old, content);
-    const std::error_code renamed = error ? error : system_.rename(temporary, destination);
-    if (renamed) {
+    if (const std::error_code error =
+            fillTemporary(handle, missing ? nullptr : &old, replacement.content)) {
         system_.remove(temporary);
+        return error;
+    }
+    staged.temporary = temporary;
+    return {};
+}
+
+std::error_code FileOverwriter::commit(const Staged& staged) const {
+    if (staged.temporary.empty()) {
+        return writeInPlace(staged.inPlace, staged.old, staged.content);
+    }
+    if (const std::error_code renamed = system_.rename(staged.temporary, staged.destination)) {
+        system_.remove(staged.temporary);
         return renamed;
     }
     // The new file is complete whatever happens here; a failure only costs durability.
-    system_.syncFolder(folder);
+    system_.syncFolder(staged.destination.substr(0, staged.destination.find_last_of('/') + 1));
     return {};
+}
+
+void FileOverwriter::discard(const Staged& staged) const {
+    if (staged.temporary.empty()) {
+        system_.close(staged.inPlace);
+    } else {
+        system_.remove(staged.temporary);
+    }
 }
 
 std::error_code FileOverwriter::writeInPlace(FileSystem::Handle handle,

@@ -33,7 +33,29 @@ public:
     // The empty error code when the whole content was written and closed.
     std::error_code overwrite(const std::string& target, std::span<const uint8_t> content) const;
 
+    struct Replacement {
+        std::string target;
+        std::span<const uint8_t> content;
+    };
+    // Replaces several files as one: every new content is complete in its temporary before the
+    // first file is replaced, so that a failure until then leaves every file as it was. On a
+    // failure, failed is the index of the replacement that failed.
+    std::error_code overwriteAll(std::span<const Replacement> replacements, size_t& failed) const;
+
 private:
+    // A replacement made ready: its temporary written and closed, or the target opened to be
+    // written in place.
+    struct Staged {
+        std::string destination;
+        std::string temporary; // empty when written in place
+        FileSystem::Handle inPlace = -1;
+        FileSystem::Status old;
+        std::span<const uint8_t> content;
+    };
+    std::error_code stage(const Replacement& replacement, Staged& staged) const;
+    std::error_code commit(const Staged& staged) const;
+    void discard(const Staged& staged) const;
+
     std::error_code writeAll(FileSystem::Handle handle, std::span<const uint8_t> bytes) const;
     // Room on the disk for a regular file of size bytes that now holds oldSize bytes; a file
     // system that cannot reserve is written all the same. On failure the file keeps its

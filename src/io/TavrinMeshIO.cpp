@@ -239,22 +239,37 @@ std::error_code oldTail(FileSystem& system, const std::string& file, uint64_t fr
 
 TavrinMeshIO::TavrinMeshIO() : system_(PosixFileSystem::instance()) {}
 
-bool TavrinMeshIO::saveFile(const ObjectList& solids, std::string filename) {
-    filename = normalizeFileName(filename);
+std::optional<std::vector<uint8_t>> TavrinMeshIO::savedContent(const ObjectList& solids,
+                                                               const std::string& filename) {
+    std::optional<std::vector<uint8_t>> content;
     try {
-        std::optional<std::vector<uint8_t>> content = encode(solids);
+        content = encode(solids);
         if (!content) {
             lastError_ = FileError::unstorableValue;
-            return false;
+            return content;
         }
         std::vector<uint8_t> tail;
         lastError_ = oldTail(system_, filename, content->size(), tail);
-        if (!lastError_) {
+        if (lastError_) {
+            content.reset();
+        } else {
             content->insert(content->end(), tail.begin(), tail.end());
-            lastError_ = FileOverwriter(system_).overwrite(filename, *content);
         }
     } catch (const std::bad_alloc&) {
         lastError_ = std::make_error_code(std::errc::not_enough_memory);
+        content.reset();
+    }
+    return content;
+}
+
+bool TavrinMeshIO::saveFile(const ObjectList& solids, std::string filename) {
+    filename = normalizeFileName(filename);
+    if (const std::optional<std::vector<uint8_t>> content = savedContent(solids, filename)) {
+        try {
+            lastError_ = FileOverwriter(system_).overwrite(filename, *content);
+        } catch (const std::bad_alloc&) {
+            lastError_ = std::make_error_code(std::errc::not_enough_memory);
+        }
     }
     return !lastError_;
 }

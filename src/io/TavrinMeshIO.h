@@ -46,6 +46,10 @@ public:
     // tail behind the new records. False after any failure; the file on disk is then as it
     // was before (see FileOverwriter for the few files written in place).
     bool saveFile(const ObjectList& solids, std::string filename);
+    // What saveFile writes to filename (a normalised name): the records, then the tail of a
+    // longer old file. Nothing after a failure.
+    std::optional<std::vector<uint8_t>> savedContent(const ObjectList& solids,
+                                                     const std::string& filename);
     // The objects of the file, or nothing when it cannot be opened or is not a valid mesh
     // file. filename is normalised in place, so that a caller's message can show it.
     std::optional<ObjectList> OpenFile(std::string& filename);

@@ -7,6 +7,7 @@ HeadlessEditor::HeadlessEditor(UserSource& source, const std::array<Canvas*, 4>&
     installPrompts(&player);
     form.attachCanvases(canvases);
     player.attach(form);
+    form.Form_Resize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight);
     form.Form_Load();
 }
 

@@ -9,8 +9,9 @@ class Canvas;
 class UserSource;
 
 // The editor without a screen: the main window's logic on the given canvases, with a macro
-// player in the place of everyone who asks the user, loaded as the editor loads it. The
-// player's prompts are the program's prompts while it lives.
+// player in the place of everyone who asks the user, loaded as the editor loads it, its client
+// area the editor's start-up size. The player's prompts are the program's prompts while it
+// lives.
 class HeadlessEditor {
 public:
     HeadlessEditor(UserSource& source, const std::array<Canvas*, 4>& canvases);

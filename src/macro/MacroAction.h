@@ -70,9 +70,19 @@ struct File {
 struct Color {
     int32_t color = -1;
 };
+// What the macro's writer saw at this point, checked as the macro plays: the text of the next
+// message box, a node of the scene tree by the texts of its path from the top, how many items
+// of a kind the document holds, or how many of a kind are selected.
+struct Expect {
+    enum class Kind { Message, Tree, Count, Selected };
+    Kind kind = Kind::Message;
+    std::vector<std::string> texts; // the message's text, or the node's path
+    std::string items;              // Count and Selected: "solids", "faces", ...
+    int count = 0;
+};
 
 } // namespace macro
 
 using MacroAction = std::variant<macro::Resize, macro::Menu, macro::Key, macro::Mouse,
                                  macro::TreeClick, macro::TreeKey, macro::Dialog, macro::Message,
-                                 macro::Input, macro::File, macro::Color>;
+                                 macro::Input, macro::File, macro::Color, macro::Expect>;

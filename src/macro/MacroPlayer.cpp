@@ -6,6 +6,8 @@
 #include "macro/MacroWriter.h"
 #include "platform/Canvas.h"
 #include "platform/ModalDialog.h"
+#include "scene/Solid3d.h"
+#include "scene/Transformed3d.h"
 
 namespace {
 
@@ -46,32 +48,46 @@ void MacroPlayer::stop(const std::string& why) const {
     throw EventGuard::Stop{source_.where() + ": " + why};
 }
 
+std::optional<MacroAction> MacroPlayer::next(const Waiting& waiting) {
+    while (true) {
+        std::optional<MacroAction> action = source_.next(waiting);
+        if (!action) {
+            return action;
+        }
+        if (echo_ != nullptr) {
+            echo_->write(*action);
+        }
+        const auto* expect = std::get_if<macro::Expect>(&*action);
+        if (expect == nullptr) {
+            ++played_;
+            return action;
+        }
+        check(*expect);
+    }
+}
+
 MacroAction MacroPlayer::take(const Waiting& waiting, const std::string& what) {
-    std::optional<MacroAction> action = source_.next(waiting);
+    std::optional<MacroAction> action = next(waiting);
     if (!action) {
         throw EventGuard::Stop{"after " + source_.where() + ": the macro ends while " + what};
     }
-    if (echo_ != nullptr) {
-        echo_->write(*action);
-    }
-    ++played_;
     return std::move(*action);
 }
 
 bool MacroPlayer::step() {
-    std::optional<MacroAction> action = source_.next(Waiting{});
-    if (!action) {
-        return false;
-    }
-    if (closed_) {
-        throw Error(source_.where() + ": the window has been closed");
-    }
-    if (echo_ != nullptr) {
-        echo_->write(*action);
-    }
-    ++played_;
     try {
+        checkNoMessageExpected();
+        std::optional<MacroAction> action = next(Waiting{});
+        if (!action) {
+            checkNoMessageExpected();
+            return false;
+        }
+        if (closed_) {
+            stop("the window has been closed");
+        }
         playWindowAction(*action);
+    } catch (const UserSource::Unreadable& unreadable) {
+        throw Error(unreadable.message, true);
     } catch (const EventGuard::Stop& stopped) {
         throw Error(stopped.message);
     }
@@ -80,6 +96,54 @@ bool MacroPlayer::step() {
 
 void MacroPlayer::playAll() {
     while (step()) {
+    }
+}
+
+void MacroPlayer::checkNoMessageExpected() {
+    if (expectedMessage_) {
+        throw EventGuard::Stop{expectedWhere_ + ": expected the message \"" + *expectedMessage_ +
+                               "\", but no message box came"};
+    }
+}
+
+void MacroPlayer::check(const macro::Expect& expect) {
+    using Kind = macro::Expect::Kind;
+    if (expect.kind == Kind::Message) {
+        checkNoMessageExpected();
+        expectedMessage_ = expect.texts.front();
+        expectedWhere_ = source_.where();
+        return;
+    }
+    if (expect.kind == Kind::Tree) {
+        if (!findNode(expect.texts)) {
+            stop("the scene tree has no node " + pathText(expect.texts));
+        }
+        return;
+    }
+    const SceneDocument& document = form_->getDocument();
+    const SelectionState& selection = form_->getSelection();
+    const bool selected = expect.kind == Kind::Selected;
+    size_t found = 0;
+    if (expect.items == "solids") {
+        found = selected ? selection.selectedSolids.size() : document.solids.size();
+    } else if (expect.items == "workplanes") {
+        found = selected ? selection.selectedWorkplanes.size() : document.workPlanes.size();
+    } else if (expect.items == "profiles") {
+        found = selected ? selection.selectedProfiles.size() : document.profiles.size();
+    } else if (selected) {
+        found = selection.selectedFaces.size();
+    } else {
+        for (const auto& object : document.solids) {
+            if (const std::shared_ptr<Solid3d> solid = object->getSolid()) {
+                found += static_cast<size_t>(expect.items == "faces" ? solid->GetFaceNum()
+                                                                     : solid->getPointUpperBound());
+            }
+        }
+    }
+    if (found != static_cast<size_t>(expect.count)) {
+        const std::string items = (selected ? "selected " : "") + expect.items;
+        stop("expected " + std::to_string(expect.count) + " " + items + ", found " +
+             std::to_string(found));
     }
 }
 
@@ -145,31 +209,41 @@ void MacroPlayer::playMouse(const macro::Mouse& mouse) {
     });
 }
 
-void MacroPlayer::playTreeClick(const macro::TreeClick& click) {
+std::shared_ptr<SceneTreeNode>
+MacroPlayer::findNode(const std::vector<std::string>& textPath) const {
     SceneTreeModel& tree = form_->getSceneTree();
     std::shared_ptr<SceneTreeNode> node;
+    const SceneTreeNodes* children = &tree.root().children();
+    for (const std::string& text : textPath) {
+        node.reset();
+        for (const auto& child : *children) {
+            if (child->text == text) {
+                node = child;
+                break;
+            }
+        }
+        if (!node) {
+            return nullptr;
+        }
+        if (node->laterChildCount() > 0) {
+            tree.makeLaterChildren(*node);
+        }
+        children = &node->children();
+    }
+    return node;
+}
+
+void MacroPlayer::playTreeClick(const macro::TreeClick& click) {
+    std::shared_ptr<SceneTreeNode> node;
     if (!click.key.empty()) {
-        node = tree.findSceneNode(click.key);
+        node = form_->getSceneTree().findSceneNode(click.key);
         if (!node) {
             stop("the scene tree has no node with the key " + click.key);
         }
     } else {
-        const SceneTreeNodes* children = &tree.root().children();
-        for (const std::string& text : click.textPath) {
-            node.reset();
-            for (const auto& child : *children) {
-                if (child->text == text) {
-                    node = child;
-                    break;
-                }
-            }
-            if (!node) {
-                stop("the scene tree has no node " + pathText(click.textPath));
-            }
-            if (node->laterChildCount() > 0) {
-                tree.makeLaterChildren(*node);
-            }
-            children = &node->children();
+        node = findNode(click.textPath);
+        if (!node) {
+            stop("the scene tree has no node " + pathText(click.textPath));
         }
     }
     EventGuard::run([&] { form_->TreeView1_NodeClick(*node); });
@@ -206,6 +280,13 @@ MessageAnswer MacroPlayer::messageBox(const std::string& text, const std::string
                                       MessageButtons buttons) {
     const std::string what = "a message box asks: " + text;
     const MacroAction action = take({Waiting::Kind::Message, nullptr, buttons}, what);
+    if (expectedMessage_) {
+        if (*expectedMessage_ != text) {
+            throw EventGuard::Stop{expectedWhere_ + ": expected the message \"" +
+                                   *expectedMessage_ + "\", found \"" + text + "\""};
+        }
+        expectedMessage_.reset();
+    }
     const MessageAnswer answer = expect<macro::Message>(action, what).answer;
     if ((buttons == MessageButtons::Ok) != (answer == MessageAnswer::Ok)) {
         stop(std::string("the message box has ") +
@@ -222,7 +303,15 @@ std::optional<std::string> MacroPlayer::inputBox(const std::string& prompt, cons
 
 std::string MacroPlayer::chooseFile(const std::string& title, const std::string&) {
     const std::string what = "the file dialog \"" + title + "\" is open";
-    return expect<macro::File>(take({Waiting::Kind::File}, what), what).path;
+    const std::string path = expect<macro::File>(take({Waiting::Kind::File}, what), what).path;
+    if (sandbox_.empty() || path.empty()) {
+        return path;
+    }
+    const std::string name = path.substr(path.find_last_of('/') + 1);
+    if (name.empty() || name == "." || name == "..") {
+        stop("the file " + path + " has no name to find in the sandbox");
+    }
+    return sandbox_ + "/" + name;
 }
 
 int32_t MacroPlayer::chooseColor() {
@@ -237,14 +326,10 @@ void MacroPlayer::setMousePointer(MousePointer pointer) {
 }
 
 void MacroPlayer::showPopupMenu(Canvas&, int, int) {
-    std::optional<MacroAction> action = source_.next({Waiting::Kind::Popup});
+    std::optional<MacroAction> action = next({Waiting::Kind::Popup});
     if (!action) {
         return;
     }
-    if (echo_ != nullptr) {
-        echo_->write(*action);
-    }
-    ++played_;
     const auto* menu = std::get_if<macro::Menu>(&*action);
     if (menu == nullptr || !menu->popup) {
         stop(std::visit(Describe{}, *action) + ", but the pop-up menu is open");

@@ -8,10 +8,13 @@
 #include "platform/WindowFrame.h"
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
 class MacroWriter;
+class SceneTreeNode;
 class frmTolvane;
 
 // Plays actions from a source on the main window's logic, as a user would: it takes the
@@ -29,7 +32,14 @@ public:
     // One line: where the action came from and why it does not fit.
     class Error : public std::runtime_error {
     public:
-        using std::runtime_error::runtime_error;
+        explicit Error(const std::string& message, bool unreadable = false)
+            : std::runtime_error(message), unreadable_(unreadable) {}
+        // Whether the source could not be read on (UserSource::Unreadable), rather than an
+        // action that did not fit.
+        bool unreadable() const { return unreadable_; }
+
+    private:
+        bool unreadable_;
     };
 
     explicit MacroPlayer(UserSource& source) : source_(source) {}
@@ -42,13 +52,16 @@ public:
     void echoTo(MacroWriter* writer) { echo_ = writer; }
     // How a resize reaches the form; by default it is handed straight to the form.
     void setResizer(std::function<void(int, int)> resizer) { resizer_ = std::move(resizer); }
+    // Every file the actions name goes to the file of the same name in folder instead, so that
+    // a macro neither reads nor writes where it was made.
+    void setSandbox(std::string folder) { sandbox_ = std::move(folder); }
 
     // Plays the next action the window hears, with all it leads to. False at the end of
     // the actions or once the window has been closed. Throws Error.
     bool step();
     // Steps to the end; throws Error.
     void playAll();
-    // Actions played so far.
+    // Actions played so far (expect lines are not actions).
     long played() const { return played_; }
     bool windowClosed() const { return closed_; }
 
@@ -64,8 +77,15 @@ public:
     void unload() override;
 
 private:
+    // The source's next action for what waits, after checking the expect lines before it.
+    std::optional<MacroAction> next(const Waiting& waiting);
     // The next action for what waits; stops when there is none.
     MacroAction take(const Waiting& waiting, const std::string& what);
+    void check(const macro::Expect& expect);
+    // Stops when an expected message box did not come.
+    void checkNoMessageExpected();
+    // The tree node with this path of texts from the top, or null.
+    std::shared_ptr<SceneTreeNode> findNode(const std::vector<std::string>& textPath) const;
     [[noreturn]] void stop(const std::string& why) const;
     void playWindowAction(const MacroAction& action);
     void playMenu(const macro::Menu& menu);
@@ -79,6 +99,10 @@ private:
     WindowFrame* shown_ = nullptr;
     MacroWriter* echo_ = nullptr;
     std::function<void(int, int)> resizer_;
+    std::string sandbox_;
+    // The text the next message box must show, and the line that said so.
+    std::optional<std::string> expectedMessage_;
+    std::string expectedWhere_;
     long played_ = 0;
     bool closed_ = false;
 };

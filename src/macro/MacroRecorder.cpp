@@ -2,6 +2,9 @@
 
 #include "app/frmTolvane.h"
 #include "macro/MacroWriter.h"
+#include "macro/MessageText.h"
+
+#include <system_error>
 
 void MacroRecorder::attach(frmTolvane& form, WindowFrame& frame, FileChooser& files,
                            ColorChooser& colors, Prompts& prompts) {
@@ -14,25 +17,39 @@ void MacroRecorder::attach(frmTolvane& form, WindowFrame& frame, FileChooser& fi
     installPrompts(this);
 }
 
+void MacroRecorder::record(const MacroAction& action) {
+    if (stopped_) {
+        return;
+    }
+    try {
+        writer_.write(action);
+    } catch (const std::system_error& error) {
+        stopped_ = true;
+        prompts_->messageBox("The macro cannot be written (" + MessageText::reason(error.code()) +
+                                 "); recording has stopped.",
+                             "Korvan", MessageIcon::Critical, MessageButtons::Ok);
+    }
+}
+
 void MacroRecorder::clientResized(int width, int height) {
-    writer_.write(macro::Resize{width, height});
+    record(macro::Resize{width, height});
 }
 
 void MacroRecorder::menuChosen(const MenuItem& item) {
     const MainMenu& menus = form_->getMenus();
-    writer_.write(macro::Menu{menus.isInPopup(item), menus.pathOf(item)});
+    record(macro::Menu{menus.isInPopup(item), menus.pathOf(item)});
 }
 
 void MacroRecorder::keyPressed(int keyCode) {
-    writer_.write(macro::Key{keyCode});
+    record(macro::Key{keyCode});
 }
 
 void MacroRecorder::mousePressed(int viewport, int button, int shift, float x, float y) {
-    writer_.write(macro::Mouse{true, viewport, button, shift, x, y});
+    record(macro::Mouse{true, viewport, button, shift, x, y});
 }
 
 void MacroRecorder::mouseMoved(int viewport, int button, int shift, float x, float y) {
-    writer_.write(macro::Mouse{false, viewport, button, shift, x, y});
+    record(macro::Mouse{false, viewport, button, shift, x, y});
 }
 
 void MacroRecorder::treeNodeClicked(const SceneTreeNode& node) {
@@ -44,15 +61,15 @@ void MacroRecorder::treeNodeClicked(const SceneTreeNode& node) {
             click.textPath.insert(click.textPath.begin(), at->text);
         }
     }
-    writer_.write(click);
+    record(click);
 }
 
 void MacroRecorder::treeKeyPressed(int keyCode) {
-    writer_.write(macro::TreeKey{keyCode});
+    record(macro::TreeKey{keyCode});
 }
 
 void MacroRecorder::acted(const ModalDialog& dialog, const ControlAction& action) {
-    writer_.write(macro::Dialog{dialog.caption(), action});
+    record(macro::Dialog{dialog.caption(), action});
 }
 
 void MacroRecorder::showModal(ModalDialog& dialog) {
@@ -62,8 +79,9 @@ void MacroRecorder::showModal(ModalDialog& dialog) {
 
 MessageAnswer MacroRecorder::messageBox(const std::string& text, const std::string& title,
                                         MessageIcon icon, MessageButtons buttons) {
+    record(macro::Expect{macro::Expect::Kind::Message, {text}, {}, 0});
     const MessageAnswer answer = prompts_->messageBox(text, title, icon, buttons);
-    writer_.write(macro::Message{answer});
+    record(macro::Message{answer});
     return answer;
 }
 
@@ -71,18 +89,18 @@ std::optional<std::string> MacroRecorder::inputBox(const std::string& prompt,
                                                    const std::string& title,
                                                    const std::string& defaultText) {
     std::optional<std::string> text = prompts_->inputBox(prompt, title, defaultText);
-    writer_.write(macro::Input{text});
+    record(macro::Input{text});
     return text;
 }
 
 std::string MacroRecorder::chooseFile(const std::string& title, const std::string& filter) {
     std::string path = files_->chooseFile(title, filter);
-    writer_.write(macro::File{path});
+    record(macro::File{path});
     return path;
 }
 
 int32_t MacroRecorder::chooseColor() {
     const int32_t color = colors_->chooseColor();
-    writer_.write(macro::Color{color < 0 ? -1 : color});
+    record(macro::Color{color < 0 ? -1 : color});
     return color;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/UserEventListener.h"
+#include "macro/MacroAction.h"
 #include "platform/ColorChooser.h"
 #include "platform/FileChooser.h"
 #include "platform/ModalDialog.h"
@@ -14,7 +15,9 @@ class frmTolvane;
 // Writes what the user does in the editor as a macro: it hears the main window's events
 // and every dialog's actions, and stands between the program and the hosts that ask the
 // user (dialogs, message and input boxes, file and colour dialogs) to write their answers.
-// Each line is written before the action runs, or, for an answer, as soon as it is given.
+// Each line is written before the action runs, or, for an answer, as soon as it is given; the
+// text of every message box is written before its answer, as an expect line. When a line
+// cannot be written, the user is told once and recording stops; the editor goes on.
 class MacroRecorder : public UserEventListener,
                       public ControlActionListener,
                       public ModalHost,
@@ -48,10 +51,13 @@ public:
     int32_t chooseColor() override;
 
 private:
+    void record(const MacroAction& action);
+
     MacroWriter& writer_;
     ModalHost& dialogs_;
     frmTolvane* form_ = nullptr;
     Prompts* prompts_ = nullptr;
     FileChooser* files_ = nullptr;
     ColorChooser* colors_ = nullptr;
+    bool stopped_ = false;
 };

@@ -1,8 +1,10 @@
 #include "macro/MacroSyntax.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <span>
 #include <system_error>
 
 namespace {
@@ -237,6 +239,41 @@ MacroAction parseMouse(Words& words, bool press) {
     return mouse;
 }
 
+// The kinds of item an expect line counts; the first four may also be counted selected.
+constexpr std::string_view countedItems[] = {"solids", "workplanes", "profiles", "faces", "points"};
+
+MacroAction parseExpect(Words& words) {
+    using Kind = macro::Expect::Kind;
+    macro::Expect expect;
+    const std::string what = words.text("message, tree, count or selected");
+    if (what == "message") {
+        expect.texts = {words.text("message text")};
+        return expect;
+    }
+    if (what == "tree") {
+        expect.kind = Kind::Tree;
+        expect.texts = words.rest();
+        if (expect.texts.empty()) {
+            throw Error("missing node texts");
+        }
+        return expect;
+    }
+    if (what != "count" && what != "selected") {
+        throw Error("bad expect " + what + " (message, tree, count or selected)");
+    }
+    expect.kind = what == "count" ? Kind::Count : Kind::Selected;
+    expect.items = words.text("items");
+    const auto items =
+        expect.kind == Kind::Count ? std::span(countedItems) : std::span(countedItems).first(4);
+    if (std::find(items.begin(), items.end(), expect.items) == items.end()) {
+        throw Error("bad items " + expect.items +
+                    (expect.kind == Kind::Count ? " (solids, workplanes, profiles, faces or points)"
+                                                : " (solids, workplanes, profiles or faces)"));
+    }
+    expect.count = words.integer("count", 0);
+    return expect;
+}
+
 MacroAction parseWords(Words& words) {
     const std::string verb = words.text("action");
     if (verb == "resize") {
@@ -275,6 +312,9 @@ MacroAction parseWords(Words& words) {
     }
     if (verb == "dialog") {
         return parseDialog(words);
+    }
+    if (verb == "expect") {
+        return parseExpect(words);
     }
     if (verb == "message") {
         const std::string& answer = words.text("answer");
@@ -380,6 +420,19 @@ struct Formatter {
     std::string operator()(const macro::Color& a) const {
         return a.color < 0 ? "color cancel" : "color " + std::to_string(a.color);
     }
+    std::string operator()(const macro::Expect& a) const {
+        switch (a.kind) {
+        case macro::Expect::Kind::Message:
+            return "expect message" + joined(a.texts);
+        case macro::Expect::Kind::Tree:
+            return "expect tree" + joined(a.texts);
+        case macro::Expect::Kind::Count:
+            return "expect count " + a.items + " " + std::to_string(a.count);
+        case macro::Expect::Kind::Selected:
+            break;
+        }
+        return "expect selected " + a.items + " " + std::to_string(a.count);
+    }
 };
 
 } // namespace
@@ -400,23 +453,4 @@ std::optional<MacroAction> MacroSyntax::parse(std::string_view line) {
     MacroAction action = parseWords(words);
     words.end();
     return action;
-}
-
-std::vector<MacroSyntax::NumberedAction> MacroSyntax::parseAll(std::string_view text) {
-    std::vector<NumberedAction> actions;
-    int number = 0;
-    while (!text.empty()) {
-        ++number;
-        const size_t end = text.find('\n');
-        const std::string_view line = text.substr(0, end);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        try {
-            if (auto action = parse(line)) {
-                actions.push_back({number, std::move(*action)});
-            }
-        } catch (const Error& e) {
-            throw Error("line " + std::to_string(number) + ": " + e.what());
-        }
-    }
-    return actions;
 }

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // The text form of macro actions: one action a line, words separated by spaces, a word in
 // double quotes when it is text the user typed or read (captions, texts, paths), with \"
@@ -31,13 +30,5 @@ public:
 std::string format(const MacroAction& action);
 // The action a line holds, or nothing for a blank or comment line; throws Error.
 std::optional<MacroAction> parse(std::string_view line);
-
-// Every action of a macro text with its line number; throws Error with the message
-// "line N: ..." for the first line that is not an action.
-struct NumberedAction {
-    int line = 0;
-    MacroAction action;
-};
-std::vector<NumberedAction> parseAll(std::string_view text);
 
 } // namespace MacroSyntax

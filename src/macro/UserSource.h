@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/EventGuard.h"
 #include "macro/MacroAction.h"
 #include "platform/Prompts.h"
 
@@ -27,6 +28,10 @@ struct Waiting {
 // Where the player's actions come from: a macro file, or a program that plays a user.
 class UserSource {
 public:
+    // Thrown by next when the source cannot be read on (a line that is no action, a failed
+    // read): the play stops, and the message says where ("line 4: bad viewport 7").
+    struct Unreadable : EventGuard::Stop {};
+
     virtual ~UserSource() = default;
     // The next action. Nothing at the end of the actions, or, while a pop-up menu waits,
     // when the next action is not one of its items (the menu is dismissed and the action

@@ -2,6 +2,7 @@
 
 #include "app/EventGuard.h"
 #include "app/frmTolvane.h"
+#include "qt/DesktopKey.h"
 #include "qt/SceneTreeItemModel.h"
 #include "qt/frmRebuildView.h"
 
@@ -119,6 +120,10 @@ void SceneTreeView::rebuildFinished() {
 void SceneTreeView::keyPressEvent(QKeyEvent* event) {
     // Every key rebuilds the tree, so the tree's own use of the key (moving the current
     // node, expanding) would act on nodes that are gone; only Delete means anything.
-    const int keyCode = event->key() == Qt::Key_Delete ? frmTolvane::keyCodeDelete : 0;
-    EventGuard::run([&] { form_.TreeView1_KeyDown(keyCode); });
+    const std::optional<int> code = desktopKeyCode(*event);
+    if (!code) {
+        QTreeView::keyPressEvent(event);
+        return;
+    }
+    EventGuard::run([&] { form_.TreeView1_KeyDown(*code); });
 }

@@ -3,6 +3,7 @@
 #include "app/EventGuard.h"
 #include "app/MenuItem.h"
 #include "qt/CanvasWidget.h"
+#include "qt/DesktopKey.h"
 #include "qt/SceneTreeView.h"
 
 #include <QApplication>
@@ -85,7 +86,8 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
 
     form_.attachCanvases(canvases);
     form_.attachFrame(*this, files_, colors_);
-    resize(1280, 800);
+    resize(frmTolvane::startUpClientWidth,
+           frmTolvane::startUpClientHeight + menuBar()->sizeHint().height());
     EventGuard::run([this] { form_.Form_Load(); });
 }
 
@@ -152,9 +154,10 @@ void frmTolvaneView::showPopupMenu(Canvas& canvas, int x, int y) {
 }
 
 void frmTolvaneView::keyPressEvent(QKeyEvent* event) {
-    // The desktop's key codes: letters and digits are their upper-case character codes, as
-    // Qt's are; both Enter keys are 13.
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const int code = enter ? 13 : event->key();
-    EventGuard::run([this, code] { form_.Form_KeyDown(code); });
+    const std::optional<int> code = desktopKeyCode(*event);
+    if (!code) {
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    EventGuard::run([this, code] { form_.Form_KeyDown(*code); });
 }

@@ -1,10 +1,12 @@
 #include "app/frmMouseSensivity.h"
 #include "app/frmSplash.h"
 #include "app/frmTolvane.h"
+#include "io/PosixFileSystem.h"
 #include "macro/MacroFile.h"
 #include "macro/MacroPlayer.h"
 #include "macro/MacroRecorder.h"
 #include "macro/MacroWriter.h"
+#include "macro/MessageText.h"
 #include "modelling/frmAdditionalExtrusions.h"
 #include "modelling/frmExtrude.h"
 #include "modelling/frmFaceProperty.h"
@@ -29,10 +31,9 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <cstdio>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <optional>
+#include <system_error>
 
 namespace {
 
@@ -54,7 +55,7 @@ void registerViews(QtModalHost& dialogs) {
 
 // A failure before the window opens: a message on standard error and in a box.
 int fail(const std::string& message) {
-    std::fprintf(stderr, "korvan: %s\n", message.c_str());
+    std::fprintf(stderr, "korvan: %s\n", MessageText::oneLine(message).c_str());
     QMessageBox::critical(nullptr, "Korvan", QString::fromStdString(message));
     return 1;
 }
@@ -83,16 +84,11 @@ int runEditor(MacroRecorder* recorder, QtModalHost& dialogs) {
 // Plays the macro in the editor's window, one action of the window at a time, and leaves
 // the window open at the end; a line that does not fit stops the replay with a message.
 int replay(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        return fail("cannot open the macro " + path);
-    }
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     std::optional<MacroFile> macro;
     try {
-        macro.emplace(text);
-    } catch (const MacroSyntax::Error& error) {
-        return fail(path + " " + error.what());
+        macro.emplace(MacroFile::open(PosixFileSystem::instance(), path));
+    } catch (const std::system_error& error) {
+        return fail("cannot open the macro " + path + ": " + MessageText::reason(error.code()));
     }
     MacroPlayer player(*macro);
     frmTolvane form(player);
@@ -107,11 +103,11 @@ int replay(const std::string& path) {
                 QTimer::singleShot(replayStepMs, &window, next);
                 return;
             }
-            std::fprintf(stderr, "korvan: replayed %s (%ld actions)\n", path.c_str(),
-                         player.played());
+            std::fprintf(stderr, "korvan: replayed %s (%ld actions)\n",
+                         MessageText::oneLine(path).c_str(), player.played());
         } catch (const MacroPlayer::Error& error) {
             const std::string message = path + " " + error.what();
-            std::fprintf(stderr, "korvan: %s\n", message.c_str());
+            std::fprintf(stderr, "korvan: %s\n", MessageText::oneLine(message).c_str());
             QMessageBox::critical(&window, "Replay stopped", QString::fromStdString(message));
         }
     };
@@ -143,11 +139,12 @@ int main(int argc, char** argv) {
     if (args[1] != "--record") {
         return usage();
     }
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) {
-        return fail("cannot write the macro " + path);
+    std::optional<MacroWriter> writer;
+    try {
+        writer.emplace(MacroWriter::create(PosixFileSystem::instance(), path));
+    } catch (const std::system_error& error) {
+        return fail("cannot write the macro " + path + ": " + MessageText::reason(error.code()));
     }
-    MacroWriter writer(out);
-    MacroRecorder recorder(writer, dialogs);
+    MacroRecorder recorder(*writer, dialogs);
     return runEditor(&recorder, dialogs);
 }

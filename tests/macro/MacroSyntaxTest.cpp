@@ -5,6 +5,7 @@
 namespace {
 
 using Verb = ControlAction::Verb;
+using Expect = macro::Expect::Kind;
 
 } // namespace
 
@@ -39,6 +40,12 @@ TEST(MacroSyntax, EveryActionReadsBackAsWritten) {
         {macro::File{"/tmp/a b.tvm"}, "file \"/tmp/a b.tvm\""},
         {macro::Color{255}, "color 255"},
         {macro::Color{-1}, "color cancel"},
+        {macro::Expect{Expect::Message, {"Say \"no\""}, "", 0},
+         "expect message \"Say \\\"no\\\"\""},
+        {macro::Expect{Expect::Tree, {"Solid 1", "Faces"}, "", 0},
+         "expect tree \"Solid 1\" \"Faces\""},
+        {macro::Expect{Expect::Count, {}, "points", 8}, "expect count points 8"},
+        {macro::Expect{Expect::Selected, {}, "faces", 0}, "expect selected faces 0"},
     };
     for (const auto& [action, line] : cases) {
         EXPECT_EQ(MacroSyntax::format(action), line);
@@ -48,35 +55,40 @@ TEST(MacroSyntax, EveryActionReadsBackAsWritten) {
     }
 }
 
-TEST(MacroSyntax, NamesTheFirstLineThatIsNoAction) {
+TEST(MacroSyntax, SaysWhyALineIsNoAction) {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"resize 10", "line 1: missing height"},
-        {"resize 10 20 30", "line 1: unexpected 30"},
-        {"key 1.5", "line 1: bad key code 1.5"},
-        {"mouse-press 4 1 0 1 1", "line 1: bad viewport 4"},
-        {"mouse-move 0 1 0 nan 1", "line 1: bad x nan"},
-        {"menu", "line 1: missing menu captions"},
-        {"dialog \"X\" check c maybe", "line 1: bad check state maybe (on or off)"},
-        {"dialog \"X\" wave c", "line 1: unknown dialog action wave"},
-        {"message perhaps", "line 1: bad message answer perhaps (ok, yes or no)"},
-        {"color 16777216", "line 1: bad colour 16777216"},
-        {"file \"\"", "line 1: empty path (write cancel for a cancelled file dialog)"},
-        {"input \"open", "line 1: a quoted text has no closing quote"},
-        {"input \"a\"b", "line 1: a quoted text runs into the next word"},
-        {"input \"\\q\"", "line 1: unknown escape \\q"},
-        {"jump 1", "line 1: unknown action jump"},
-        {"# a comment\n\n  \t\r\nkey 13\r\nkey x", "line 5: bad key code x"},
+        {"resize 10", "missing height"},
+        {"resize 10 20 30", "unexpected 30"},
+        {"key 1.5", "bad key code 1.5"},
+        {"mouse-press 4 1 0 1 1", "bad viewport 4"},
+        {"mouse-move 0 1 0 nan 1", "bad x nan"},
+        {"menu", "missing menu captions"},
+        {"dialog \"X\" check c maybe", "bad check state maybe (on or off)"},
+        {"dialog \"X\" wave c", "unknown dialog action wave"},
+        {"message perhaps", "bad message answer perhaps (ok, yes or no)"},
+        {"color 16777216", "bad colour 16777216"},
+        {"file \"\"", "empty path (write cancel for a cancelled file dialog)"},
+        {"input \"open", "a quoted text has no closing quote"},
+        {"input \"a\"b", "a quoted text runs into the next word"},
+        {"input \"\\q\"", "unknown escape \\q"},
+        {"jump 1", "unknown action jump"},
+        {"expect", "missing message, tree, count or selected"},
+        {"expect colour red", "bad expect colour (message, tree, count or selected)"},
+        {"expect tree", "missing node texts"},
+        {"expect count lights 1",
+         "bad items lights (solids, workplanes, profiles, faces or points)"},
+        {"expect selected points 1", "bad items points (solids, workplanes, profiles or faces)"},
+        {"expect count solids -1", "bad count -1"},
     };
-    for (const auto& [text, message] : cases) {
+    for (const auto& [line, message] : cases) {
         try {
-            MacroSyntax::parseAll(text);
-            ADD_FAILURE() << text;
+            MacroSyntax::parse(line);
+            ADD_FAILURE() << line;
         } catch (const MacroSyntax::Error& error) {
-            EXPECT_EQ(std::string(error.what()), message) << text;
+            EXPECT_EQ(std::string(error.what()), message) << line;
         }
     }
-    const auto actions = MacroSyntax::parseAll("# heading\nkey 13\r\n\ntree-key 46");
-    ASSERT_EQ(actions.size(), 2u);
-    EXPECT_EQ(actions[0].line, 2);
-    EXPECT_EQ(actions[1].line, 4);
+    for (const std::string blank : {"", "# a comment", "  \t\r"}) {
+        EXPECT_FALSE(MacroSyntax::parse(blank).has_value()) << blank;
+    }
 }

@@ -1,8 +1,10 @@
 #include "support/Monkey.h"
 #include "app/EventGuard.h"
 #include "app/frmTolvane.h"
+#include "io/PosixFileSystem.h"
 #include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
+#include "macro/MacroFile.h"
 #include "macro/MacroWriter.h"
 #include "scene/Face3d.h"
 #include "scene/Transformed3d.h"
@@ -28,15 +30,18 @@ long fromEnvironment(const char* name, long fallback) {
 // Plays the monkey of one seed in an editor without a screen, checking the document after
 // every action of the window. The macro it played is kept when asked, and always when
 // something went wrong (an exception got out, a line did not fit, an invariant broke); the
-// failure names it.
+// failure names it. Each seed saves its files in a folder of its own, which it starts empty, so
+// that its macro replays alike in any empty sandbox.
 std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool keep) {
-    fs::create_directories(folder);
+    const fs::path files = folder / ("monkey-" + std::to_string(seed));
+    fs::remove_all(files);
+    fs::create_directories(files);
     const fs::path macroPath = folder / ("monkey-" + std::to_string(seed) + ".macro");
     std::string failure;
     {
         std::ofstream file(macroPath);
         MacroWriter writer(file);
-        Monkey monkey(seed, actions, folder.string());
+        Monkey monkey(seed, actions, files.string());
         std::array<BlankCanvas, 4> canvases;
         HeadlessEditor editor(monkey, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
         editor.player.echoTo(&writer);
@@ -54,11 +59,12 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
     if (failure.empty()) {
         if (!keep) {
             fs::remove(macroPath);
+            fs::remove_all(files);
         }
         return "";
     }
     return "seed " + std::to_string(seed) + ": " + failure + " (replay with korvan-cli replay " +
-           macroPath.string() + ")";
+           macroPath.string() + " --sandbox EMPTY-FOLDER)";
 }
 
 } // namespace
@@ -82,6 +88,29 @@ TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
     if (keep == nullptr && !HasFailure()) {
         fs::remove_all(folder);
     }
+}
+
+// A kept macro plays again in an empty sandbox, though the files it saved are still where
+// it was made.
+TEST(Monkey, AKeptMacroReplaysInAnEmptySandbox) {
+    const fs::path folder =
+        fs::temp_directory_path() / ("korvan-monkey-kept-" + std::to_string(getpid()));
+    for (uint64_t seed = 1; seed <= 3; ++seed) {
+        ASSERT_EQ(playMonkey(seed, 1000, folder, true), "");
+        const fs::path sandbox = folder / ("sandbox-" + std::to_string(seed));
+        fs::create_directories(sandbox);
+        MacroFile macro = MacroFile::open(PosixFileSystem::instance(),
+                                          (folder / ("monkey-" + std::to_string(seed) + ".macro")));
+        std::array<BlankCanvas, 4> canvases;
+        HeadlessEditor editor(macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        editor.player.setSandbox(sandbox.string());
+        try {
+            editor.player.playAll();
+        } catch (const MacroPlayer::Error& error) {
+            ADD_FAILURE() << "seed " << seed << ": " << error.what();
+        }
+    }
+    fs::remove_all(folder);
 }
 
 TEST(DocumentInvariants, NameWhatABrokenDocumentGotWrong) {

@@ -1,6 +1,8 @@
 #include "qt/frmTolvaneView.h"
 
+#include "app/UserEventListener.h"
 #include "qt/CanvasWidget.h"
+#include "qt/SceneTreeView.h"
 #include "scene/Transformed3d.h"
 #include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
@@ -95,18 +97,42 @@ TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) 
     EXPECT_EQ(form.getViewSpecs(4).ProjectionType, 1);
 }
 
-TEST(frmTolvaneView, KeysPressedOverAViewportReachTheWindow) {
+// What the window's logic hears of the keys.
+struct HeardKeys : UserEventListener {
+    void clientResized(int, int) override {}
+    void menuChosen(const MenuItem&) override {}
+    void keyPressed(int keyCode) override { window.push_back(keyCode); }
+    void mousePressed(int, int, int, float, float) override {}
+    void mouseMoved(int, int, int, float, float) override {}
+    void treeNodeClicked(const SceneTreeNode&) override {}
+    void treeKeyPressed(int keyCode) override { tree.push_back(keyCode); }
+    std::vector<int> window;
+    std::vector<int> tree;
+};
+
+TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
     ScriptedPrompts prompts;
     ScriptedModalHost dialogs;
     frmTolvane form(dialogs);
     frmTolvaneView window(form);
     window.show();
     QApplication::processEvents();
-    // C closes the profile being drawn; with none, the window says so.
-    QKeyEvent key(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, "c");
-    QApplication::sendEvent(&window.picOrtho(3), &key);
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].title, "Error Closing Profile");
+    EXPECT_EQ(window.centralWidget()->size(),
+              QSize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight));
+
+    HeardKeys heard;
+    form.setUserEventListener(&heard);
+    for (QWidget* target :
+         {static_cast<QWidget*>(&window.picOrtho(3)), static_cast<QWidget*>(&window.TreeView1())}) {
+        for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Control, Qt::Key_A,
+                                  Qt::Key_Enter, Qt::Key_Delete}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(target, &press);
+        }
+    }
+    form.setUserEventListener(nullptr);
+    EXPECT_EQ(heard.window, (std::vector<int>{65, 13, 46}));
+    EXPECT_EQ(heard.tree, (std::vector<int>{65, 13, 46}));
 }
 
 TEST(frmTolvaneView, LeftDragOnTheViewportTurnsTheView) {
