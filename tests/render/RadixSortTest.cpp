@@ -1,6 +1,6 @@
 #include "render/RadixSort.h"
 
-#include "ReferenceRadixSort.h"
+#include "support/ReferenceRadixSort.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,31 +22,29 @@ std::vector<float> sortKeys(RadixSort<float>& sorter, const std::vector<float>& 
     return sorted;
 }
 
-std::vector<float> sortKeys(const std::vector<float>& keys) {
-    RadixSort<float> sorter;
-    return sortKeys(sorter, keys);
-}
-
 } // namespace
 
-TEST(RadixSort, OrdersMixedSignsAndDigitCountsAscending) {
-    // One sorter throughout, as the main window keeps one: reset must forget the last
-    // keys, and the buckets it keeps must come back empty.
+// One sorter throughout, as the main window keeps one: reset must forget the last keys.
+TEST(RadixSort, OrdersMixedSignsAndDigitCountsAscendingAndExtremeKeysComeBack) {
     RadixSort<float> sorter;
-    const auto sorted = [&](const std::vector<float>& keys) {
+    // Keys such as 13 and 4.2 are not exact in a single; their digits must still carry into
+    // the right place. An object without faces has depth -1e30 and is painted first.
+    const float inf = std::numeric_limits<float>::infinity();
+    const std::pair<std::vector<float>, std::vector<float>> sorts[] = {
+        {{3.5f, -2, 0, 12.25f, -7.5f}, {-7.5f, -2, 0, 3.5f, 12.25f}},
+        {{50, 5}, {5, 50}},
+        {{-15, -12, -25}, {-25, -15, -12}},
+        {{13, 12.5f, 4.2f, 4.1f, 0.3f, 0.25f}, {0.25f, 0.3f, 4.1f, 4.2f, 12.5f, 13}},
+        {{}, {}}};
+    for (const auto& [keys, sorted] : sorts) {
         sorter.reset(8);
-        return sortKeys(sorter, keys);
-    };
-    EXPECT_EQ(sorted({3.5f, -2, 0, 12.25f, -7.5f}),
-              (std::vector<float>{-7.5f, -2, 0, 3.5f, 12.25f}));
-    EXPECT_EQ(sorted({50, 5}), (std::vector<float>{5, 50}));
-    EXPECT_EQ(sorted({-15, -12, -25}), (std::vector<float>{-25, -15, -12}));
-    // Keys such as 13 and 4.2 are not exact in a single; their digits must still carry
-    // into the right place.
-    EXPECT_EQ(sorted({13, 12.5f, 4.2f, 4.1f, 0.3f, 0.25f}),
-              (std::vector<float>{0.25f, 0.3f, 4.1f, 4.2f, 12.5f, 13}));
-    EXPECT_EQ(sorted({7}), (std::vector<float>{7}));
-    EXPECT_TRUE(sorted({}).empty());
+        EXPECT_EQ(sortKeys(sorter, keys), sorted);
+    }
+    sorter.reset(8);
+    const auto extremes = sortKeys(sorter, {2, -1e30f, 1e30f, inf, std::nanf(""), -3});
+    ASSERT_EQ(extremes.size(), 6u);
+    EXPECT_EQ(extremes.front(), -1e30f);
+    EXPECT_EQ(extremes.back(), 1e30f);
 }
 
 TEST(RadixSort, EqualKeysComeBackInTheOrderTheyWereAdded) {
@@ -63,15 +61,6 @@ TEST(RadixSort, EqualKeysComeBackInTheOrderTheyWereAdded) {
               (std::vector<std::shared_ptr<int>>{negSecond, negFirst, first, second}));
 }
 
-TEST(RadixSort, ExtremeKeysStillComeBackEveryOne) {
-    // An object without faces has depth -1e30 and must be painted first.
-    const float inf = std::numeric_limits<float>::infinity();
-    const auto sorted = sortKeys({2, -1e30f, 1e30f, inf, std::nanf(""), -3});
-    ASSERT_EQ(sorted.size(), 6u);
-    EXPECT_EQ(sorted.front(), -1e30f);
-    EXPECT_EQ(sorted.back(), 1e30f);
-}
-
 TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
     std::mt19937 random(20240601);
     std::uniform_int_distribution<int> tenThousandths(-200000, 200000);
@@ -82,7 +71,8 @@ TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
         }
         std::vector<float> expected = keys;
         std::stable_sort(expected.begin(), expected.end());
-        ASSERT_EQ(sortKeys(keys), expected) << "round " << round;
+        RadixSort<float> sorter;
+        ASSERT_EQ(sortKeys(sorter, keys), expected) << "round " << round;
     }
 }
 
