@@ -57,11 +57,3 @@ TEST(M3Ops, AffineProductIgnoresColumnFourAndAgreesWithTheFullOneOtherwise) {
     EXPECT_EQ(C, F);
     EXPECT_EQ(C(4, 2), 9.0f);
 }
-
-TEST(M3Ops, ViewMatrixWithEyeOnTargetIsTheTranslationAlone) {
-    Matrix4 V;
-    M3Ops::buildViewMatrix(V, 1, 2, 3, 4, 2, 3, 4, 0, 1, 0);
-    Matrix4 T;
-    M3Ops::setTranslation(T, -2, -3, -4);
-    EXPECT_EQ(V, T);
-}

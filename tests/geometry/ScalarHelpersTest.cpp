@@ -1,8 +1,6 @@
 #include "geometry/Arctan.h"
-#include "geometry/ArithmeticError.h"
 #include "geometry/NumberText.h"
 #include "geometry/RootMod.h"
-#include "geometry/TrigFunctions.h"
 #include "support/ScriptedPrompts.h"
 
 #include <cmath>
@@ -50,15 +48,6 @@ TEST(ArcTan, AngleOfTheQuotientOrAQuarterTurnBySignOfYForSmallDivisors) {
         {1e-6f, 0.0099f, false, quarter}};
     for (const auto& [y, x, fullRange, angle] : angles) {
         EXPECT_FLOAT_EQ(Arctan::ArcTan(y, x, fullRange), angle) << y << " / " << x;
-    }
-}
-
-TEST(TrigFunctions, ArcSinAndArcCosInsideTheOpenRangeOnly) {
-    EXPECT_FLOAT_EQ(TrigFunctions::ArcSin(-0.5f), static_cast<float>(-pi / 6));
-    EXPECT_FLOAT_EQ(TrigFunctions::ArcCos(-0.5f), static_cast<float>(2 * pi / 3));
-    for (const float x : {1.0f, -1.0f, 1.5f}) {
-        EXPECT_THROW(TrigFunctions::ArcSin(x), ArithmeticError) << x;
-        EXPECT_THROW(TrigFunctions::ArcCos(x), ArithmeticError) << x;
     }
 }
 

@@ -1,6 +1,5 @@
 #include "modelling/frmFaceProperty.h"
 
-#include "geometry/CPoint3D.h"
 #include "modelling/frmPointIndexSelect.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
@@ -125,19 +124,4 @@ TEST_F(frmFacePropertyOnACube, ModifyPreselectsThePointAndRemoveStopsAtThree) {
     EXPECT_EQ(prompts.messages()[0].title, "Cannot delete");
     form.press("mnuAccept");
     EXPECT_EQ(face->getIndices(), (Indices{6, 1, 8}));
-}
-
-TEST(frmPointIndexSelect, ListsThePointsAndWantsALineToSelect) {
-    ScriptedPrompts prompts;
-    frmPointIndexSelect picker;
-    picker.initialize(makeCube()->getPoints(), 9); // beyond the list: nothing preselected
-    EXPECT_EQ(picker.List1.items[1], "Point 2: X:1, Y:-1,Z:-1");
-    picker.press("mnuSelect");
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].text, "Please select a point index or press cancel.");
-
-    picker.pickListLine("List1", 1);
-    picker.press("mnuSelect");
-    EXPECT_TRUE(picker.isClosed());
-    EXPECT_EQ(picker.getSelectedIndex(), 2);
 }

@@ -37,20 +37,6 @@ int referenceWinding(const std::vector<CanvasPoint>& poly, int64_t x, int64_t y)
 
 } // namespace
 
-TEST(GDIRegion, SquareCoversTopLeftInclusiveBottomRightExclusive) {
-    const GDIRegion r = region(square, GDIRegion::WindingFill);
-    for (const auto& [x, y, inside] : {std::tuple{10, 10, true},
-                                       {49, 49, true},
-                                       {9, 30, false},
-                                       {50, 30, false},
-                                       {30, 50, false}}) {
-        EXPECT_EQ(r.inRegion(x, y), inside) << x << "," << y;
-    }
-    EXPECT_TRUE(r.rectInRegion({0, 0, 11, 11}));    // over the corner pixel
-    EXPECT_FALSE(r.rectInRegion({0, 0, 10, 10}));   // just before it
-    EXPECT_FALSE(r.rectInRegion({40, 40, 20, 20})); // inverted
-}
-
 TEST(GDIRegion, FillRulesOnSelfIntersectingPolygons) {
     const std::vector<CanvasPoint> bowTie{{0, 0}, {40, 40}, {40, 0}, {0, 40}};
     // Corners of a regular pentagon around (100, 100), joined every second one.

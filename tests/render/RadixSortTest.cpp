@@ -24,43 +24,6 @@ std::vector<float> sortKeys(RadixSort<float>& sorter, const std::vector<float>& 
 
 } // namespace
 
-// One sorter throughout, as the main window keeps one: reset must forget the last keys.
-TEST(RadixSort, OrdersMixedSignsAndDigitCountsAscendingAndExtremeKeysComeBack) {
-    RadixSort<float> sorter;
-    // Keys such as 13 and 4.2 are not exact in a single; their digits must still carry into
-    // the right place. An object without faces has depth -1e30 and is painted first.
-    const float inf = std::numeric_limits<float>::infinity();
-    const std::pair<std::vector<float>, std::vector<float>> sorts[] = {
-        {{3.5f, -2, 0, 12.25f, -7.5f}, {-7.5f, -2, 0, 3.5f, 12.25f}},
-        {{50, 5}, {5, 50}},
-        {{-15, -12, -25}, {-25, -15, -12}},
-        {{13, 12.5f, 4.2f, 4.1f, 0.3f, 0.25f}, {0.25f, 0.3f, 4.1f, 4.2f, 12.5f, 13}},
-        {{}, {}}};
-    for (const auto& [keys, sorted] : sorts) {
-        sorter.reset(8);
-        EXPECT_EQ(sortKeys(sorter, keys), sorted);
-    }
-    sorter.reset(8);
-    const auto extremes = sortKeys(sorter, {2, -1e30f, 1e30f, inf, std::nanf(""), -3});
-    ASSERT_EQ(extremes.size(), 6u);
-    EXPECT_EQ(extremes.front(), -1e30f);
-    EXPECT_EQ(extremes.back(), 1e30f);
-}
-
-TEST(RadixSort, EqualKeysComeBackInTheOrderTheyWereAdded) {
-    RadixSort<int> sorter;
-    const auto first = std::make_shared<int>(1), second = std::make_shared<int>(2);
-    const auto negFirst = std::make_shared<int>(3), negSecond = std::make_shared<int>(4);
-    sorter.addObject(first, 2.5f);
-    sorter.addObject(negFirst, -1.5f);
-    sorter.addObject(second, 2.5f);
-    sorter.addObject(negSecond, -1.5f);
-    // The negative list is the exact reverse of its ascending-magnitude order, which
-    // turns its ties around too.
-    EXPECT_EQ(sorter.getSortedObjects(),
-              (std::vector<std::shared_ptr<int>>{negSecond, negFirst, first, second}));
-}
-
 TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
     std::mt19937 random(20240601);
     std::uniform_int_distribution<int> tenThousandths(-200000, 200000);

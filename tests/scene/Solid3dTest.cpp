@@ -1,7 +1,5 @@
 #include "scene/Solid3d.h"
 
-#include "render/FaceRegionEncap.h"
-#include "render/GDIRegion.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestSolids.h"
 
@@ -79,22 +77,4 @@ TEST(Solid3d, DrawPicksBaseColoursForSelectedAndForcedFaces) {
     EXPECT_EQ(polygons[1].fillStyle, FillTransparent);
     EXPECT_EQ(polygons[1].drawStyle, DrawSolid);
     EXPECT_EQ(polygons[1].foreColor, 200 * 65536);
-}
-
-TEST(Solid3d, RegionsFollowPaintOrderAndCanSkipCulledFaces) {
-    Solid3d solid;
-    addSquare(solid, 10, 10, 40, 0);
-    addSquare(solid, 100, 10, 40, 0);
-    solid.Apply(canvasLayout());
-    solid.faces[0]->IsCulled = true;
-
-    const auto all = solid.createFaceRegionEncaps(false, false, 2);
-    ASSERT_EQ(all.size(), 2u);
-    EXPECT_EQ(all[0]->getFace(), solid.faces[0]);
-    EXPECT_TRUE(all[0]->getRegion()->inRegion(30, 30));
-    EXPECT_FALSE(all[0]->getRegion()->inRegion(5, 5));
-
-    const auto visible = solid.createRegions(true, true, 2);
-    ASSERT_EQ(visible.size(), 1u);
-    EXPECT_TRUE(visible[0]->inRegion(120, 30));
 }

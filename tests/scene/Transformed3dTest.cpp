@@ -1,7 +1,6 @@
 #include "scene/Transformed3d.h"
 
 #include "geometry/M3Ops.h"
-#include "support/RecordingCanvas.h"
 
 #include <gtest/gtest.h>
 
@@ -60,21 +59,6 @@ TEST(Transformed3d, SweptAlongTheCurvesNormalEveryFaceTurnsOutwards) {
             EXPECT_GT(outwards, 0) << "face " << f + 1 << ", normal z " << c.normalZ;
         }
     }
-}
-
-TEST(Transformed3d, WithoutMatricesOrSolidEverythingIsEmpty) {
-    Transformed3d flat;
-    addSquareCurve(flat);
-    flat.Transform(true);
-    EXPECT_EQ(flat.getSolid()->GetFaceNum(), 0); // no caps either
-    Transformed3d object;
-    RecordingCanvas canvas;
-    object.cull(0, 0, 10);
-    object.SetZMax();
-    object.draw(canvas, {}, 50, 0, 0, 10, false, false, false, -1, -1, -1, 0, 50, 150);
-    EXPECT_TRUE(canvas.calls().empty());
-    EXPECT_EQ(object.zmax(), 0.0f);
-    EXPECT_TRUE(object.getFaces().empty());
 }
 
 TEST(Transformed3d, ApplyFullMovesTheCurveEvenWhenTheSolidIsCulled) {
