@@ -1,4 +1,4 @@
-#include "../tests/render/ReferenceRadixSort.h"
+#include "../tests/support/ReferenceRadixSort.h"
 #include "render/RadixSort.h"
 
 #include <benchmark/benchmark.h>

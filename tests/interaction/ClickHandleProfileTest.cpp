@@ -1,11 +1,8 @@
 #include "interaction/ClickHandleProfile.h"
 
-#include "geometry/M3Ops.h"
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "modelling/frmOrientation.h"
-#include "render/KorvanOpsConsts.h"
-#include "scene/COrientation.h"
 #include "scene/Profile.h"
 #include "scene/WorkPlane.h"
 #include "support/TestWindow.h"
@@ -17,28 +14,15 @@ namespace {
 constexpr int32_t cyan = 16776960;
 constexpr int top = 0; // the top view: depth 0 is the plane y = 0
 
-// A window of four 400 x 300 viewports drawing a profile on a selected workplane through
-// the origin.
+// A window of four viewports drawing a profile on a selected workplane through the origin.
 struct Drawing : TestWindow {
     Drawing() {
-        form.setViewportLayout(4);
-        form.Form_Resize(1000, 600);
+        showFourViewports();
         auto workPlane = std::make_shared<WorkPlane>();
         workPlane->initialize(2, 0, 0, 0, 0);
         form.getDocument().workPlanes.push_back(workPlane);
         form.setSelectedWorkplanes({workPlane});
         choose({"&Create", "&Profile"});
-    }
-
-    // The canvas pixel where the world point (x, y, z) is seen in viewport index.
-    Point4 pixel(int index, float x, float y, float z) const {
-        Point4 seen;
-        M3Ops::transformPoint(
-            Point4{x, y, z, 1},
-            KorvanOpsConsts::getFullViewMatrix(canvases[static_cast<size_t>(index)],
-                                               form.getViewSpecs(index + 1)),
-            seen);
-        return seen;
     }
     void click(int index, const Point4& at) { form.picOrtho_MouseDown(index, 1, 0, at.x, at.y); }
     void move(int index, const Point4& at) { form.picOrtho_MouseMove(index, 0, 0, at.x, at.y); }
@@ -66,48 +50,59 @@ float valueOf(const RecordingCanvas::Call& text, const std::string& caption) {
 
 } // namespace
 
+// Pointer read-out, then after a click the distance from it and the rubber band, in views
+// whose depth 0 is the plane y = 0 (top) and z = 0 (front).
 TEST(ClickHandleProfile, ReadOutShowsThePointerAndAfterAClickItsDistanceAndTheRubberBand) {
-    Drawing d;
-    d.canvases[top].forget();
-    d.move(top, d.pixel(top, 0.5f, 0, -0.25f));
-    auto texts = callsOf(d.canvases[top], RecordingCanvas::Kind::Text);
-    ASSERT_EQ(texts.size(), 3u);
-    EXPECT_NEAR(valueOf(texts[0], "X : "), 0.5f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[1], "Y : "), 0.0f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[2], "Z : "), -0.25f, 0.01f);
-    // On the last three lines, in 6 x 13 pixel cells on a 400 x 300 canvas.
-    EXPECT_EQ(texts[2].points[0].y, 300 - 13);
-    EXPECT_TRUE(callsOf(d.canvases[top], RecordingCanvas::Kind::LineTo).empty());
+    constexpr int front = 2;
+    const std::tuple<int, Point4, Point4> rows[] = {
+        {top, {0.5f, 0, -0.25f, 1}, {1, 0, 0.5f, 1}},
+        {front, {0.5f, 0.75f, 0, 1}, {-1, -0.25f, 0, 1}}};
+    for (const auto& [view, from, to] : rows) {
+        SCOPED_TRACE(view == top ? "top view" : "front view");
+        Drawing d;
+        RecordingCanvas& canvas = d.canvases[static_cast<size_t>(view)];
+        const Point4 fromPixel = d.pixel(view, from.x, from.y, from.z);
+        const Point4 toPixel = d.pixel(view, to.x, to.y, to.z);
+        canvas.forget();
+        d.move(view, fromPixel);
+        auto texts = callsOf(canvas, RecordingCanvas::Kind::Text);
+        ASSERT_EQ(texts.size(), 3u);
+        EXPECT_TRUE(callsOf(canvas, RecordingCanvas::Kind::LineTo).empty());
+        const std::pair<const char*, float> pointer[] = {
+            {"X : ", from.x}, {"Y : ", from.y}, {"Z : ", from.z}};
+        for (size_t i = 0; i < 3; ++i) {
+            EXPECT_NEAR(valueOf(texts[i], pointer[i].first), pointer[i].second, 0.01f);
+        }
+        // On the last lines, in 6 x 13 pixel cells on a 400 x 300 canvas, right-aligned.
+        EXPECT_EQ(texts[2].points[0].y, 300 - 13);
 
-    const Point4 from = d.pixel(top, 0.5f, 0, -0.25f);
-    const Point4 to = d.pixel(top, 1, 0, 0.5f);
-    d.click(top, from);
-    d.canvases[top].forget();
-    d.canvases[2].forget();
-    d.move(top, to);
-    // Drawn in every viewport.
-    EXPECT_EQ(callsOf(d.canvases[2], RecordingCanvas::Kind::Text).size(), 6u);
-    texts = callsOf(d.canvases[top], RecordingCanvas::Kind::Text);
-    ASSERT_EQ(texts.size(), 6u);
-    EXPECT_NEAR(valueOf(texts[0], "X Dist: "), 0.5f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[1], "Y Dist: "), 0.0f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[2], "Z Dist: "), 0.75f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[3], "X : "), 1.0f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[4], "Y : "), 0.0f, 0.01f);
-    EXPECT_NEAR(valueOf(texts[5], "Z : "), 0.5f, 0.01f);
-    EXPECT_EQ(texts[0].points[0].y, 300 - 6 * 13);
-    EXPECT_EQ(texts[3].points[0].x, 400 - 6 * static_cast<int>(texts[3].text.size()));
+        d.click(view, fromPixel);
+        canvas.forget();
+        d.canvases[1].forget();
+        d.move(view, toPixel);
+        EXPECT_EQ(callsOf(d.canvases[1], RecordingCanvas::Kind::Text).size(), 6u); // every view
+        texts = callsOf(canvas, RecordingCanvas::Kind::Text);
+        ASSERT_EQ(texts.size(), 6u);
+        const std::pair<const char*, float> lines[] = {{"X Dist: ", to.x - from.x},
+                                                       {"Y Dist: ", to.y - from.y},
+                                                       {"Z Dist: ", to.z - from.z},
+                                                       {"X : ", to.x},
+                                                       {"Y : ", to.y},
+                                                       {"Z : ", to.z}};
+        for (size_t i = 0; i < 6; ++i) {
+            EXPECT_NEAR(valueOf(texts[i], lines[i].first), lines[i].second, 0.01f);
+        }
+        EXPECT_EQ(texts[0].points[0].y, 300 - 6 * 13);
+        EXPECT_EQ(texts[3].points[0].x, 400 - 6 * static_cast<int>(texts[3].text.size()));
 
-    const auto lineEnds = callsOf(d.canvases[top], RecordingCanvas::Kind::LineTo);
-    ASSERT_FALSE(lineEnds.empty());
-    const auto band = lineEnds.back();
-    EXPECT_EQ(band.drawStyle, DrawSolid);
-    EXPECT_EQ(band.points[0].x, Rounding::toInt32(to.x));
-    EXPECT_EQ(band.points[0].y, Rounding::toInt32(to.y));
-    const auto bandStart = callsOf(d.canvases[top], RecordingCanvas::Kind::MoveTo).back();
-    EXPECT_EQ(bandStart.points[0].x, Rounding::toInt32(from.x));
-    EXPECT_EQ(bandStart.points[0].y, Rounding::toInt32(from.y));
-    EXPECT_NE(d.canvases[top].foreColor(), cyan); // the canvas's own colour again
+        const auto band = callsOf(canvas, RecordingCanvas::Kind::LineTo).back();
+        const auto bandStart = callsOf(canvas, RecordingCanvas::Kind::MoveTo).back();
+        EXPECT_EQ(std::pair(band.points[0].x, band.points[0].y),
+                  std::pair(Rounding::toInt32(toPixel.x), Rounding::toInt32(toPixel.y)));
+        EXPECT_EQ(std::pair(bandStart.points[0].x, bandStart.points[0].y),
+                  std::pair(Rounding::toInt32(fromPixel.x), Rounding::toInt32(fromPixel.y)));
+        EXPECT_NE(canvas.foreColor(), cyan); // the canvas's own colour again
+    }
 }
 
 TEST(ClickHandleProfile, ClicksBecomePointsWhereTheyAreSeenAndAMiddleClickCloses) {
@@ -120,9 +115,7 @@ TEST(ClickHandleProfile, ClicksBecomePointsWhereTheyAreSeenAndAMiddleClickCloses
     ASSERT_EQ(d.profile().getPointCount(), 3);
     const Point4 second = d.profile().getPointRecord(2).coord;
     EXPECT_NEAR(second.x, 1.0f, 0.01f);
-    EXPECT_NEAR(second.y, 0.0f, 0.01f);
     EXPECT_NEAR(second.z, 0.5f, 0.01f);
-    EXPECT_EQ(second.w, 1.0f);
 
     // The two segments' screen directions sum to more than 0: a clockwise guess.
     std::string guess;
@@ -148,14 +141,4 @@ TEST(ClickHandleProfile, ARefusedClickStillStartsTheRubberBand) {
     d.canvases[top].forget();
     d.move(top, d.pixel(top, 1, 0, 0));
     EXPECT_EQ(callsOf(d.canvases[top], RecordingCanvas::Kind::Text).size(), 6u);
-}
-
-TEST(ClickHandleProfile, GuessIsUnknownBeforeAnyClick) {
-    ClickHandleProfile tool;
-    std::vector<std::any> datum;
-    std::vector<std::any> castGuide;
-    tool.getData(datum, castGuide);
-    ASSERT_EQ(datum.size(), 1u);
-    EXPECT_EQ(std::any_cast<COrientation>(datum[0]).getOrientation(), -1);
-    EXPECT_TRUE(castGuide.empty());
 }

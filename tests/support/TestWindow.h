@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/frmTolvane.h"
+#include "geometry/M3Ops.h"
+#include "render/KorvanOpsConsts.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
@@ -28,6 +30,23 @@ struct TestWindow {
         form.attachFrame(frame, files, colors);
         form.Form_Load();
         form.Form_Resize(1000, 600);
+    }
+
+    // Four 400 x 300 viewports instead of the one of start-up.
+    void showFourViewports() {
+        form.setViewportLayout(4);
+        form.Form_Resize(1000, 600);
+    }
+
+    // Where viewport index shows the world point (x, y, z): its canvas pixel and depth.
+    Point4 pixel(int index, float x, float y, float z) const {
+        Point4 seen;
+        M3Ops::transformPoint(
+            Point4{x, y, z, 1},
+            KorvanOpsConsts::getFullViewMatrix(canvases[static_cast<size_t>(index)],
+                                               form.getViewSpecs(index + 1)),
+            seen);
+        return seen;
     }
 
     // Chooses a menu item by the captions of its path from the bar ({"&File", "&New"}).
