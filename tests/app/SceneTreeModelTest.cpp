@@ -6,19 +6,11 @@
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
+#include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-// The top nodes as "key: text".
-std::vector<std::string> topNodes(const SceneTreeModel& tree) {
-    std::vector<std::string> nodes;
-    for (const auto& node : tree.root().children()) {
-        nodes.push_back(node->key + ": " + node->text);
-    }
-    return nodes;
-}
 
 // Writes down what the tree tells its view.
 struct RecordingListener : SceneTreeListener {

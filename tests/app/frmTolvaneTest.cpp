@@ -39,13 +39,7 @@ struct Window : TestWindow {
     }
 
     SceneTreeNode& node(const std::string& key) { return *form.getSceneTree().findSceneNode(key); }
-    std::vector<std::string> topNodes() {
-        std::vector<std::string> nodes;
-        for (const auto& node : form.getSceneTree().root().children()) {
-            nodes.push_back(node->key + ": " + node->text);
-        }
-        return nodes;
-    }
+    std::vector<std::string> topNodes() { return ::topNodes(form.getSceneTree()); }
 };
 
 } // namespace
