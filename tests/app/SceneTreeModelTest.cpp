@@ -82,7 +82,7 @@ TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededKeysRunOnAndARebuildListsEveryKi
     tree.rebuildTree(document);
     EXPECT_EQ(listener.events,
               (std::vector<std::string>{"notice Rebulding", "about", "changed", "done"}));
-    EXPECT_EQ(topNodes(tree),
+    ASSERT_EQ(topNodes(tree),
               (std::vector<std::string>{"s1: Solid 1", "w1: Workplane 1", "r1: Profile 1"}));
     EXPECT_EQ(tree.SelectedItem, nullptr);
     EXPECT_EQ(tree.findSceneNode("w1")->children()[1]->text, "X Rotation: 0.5");
