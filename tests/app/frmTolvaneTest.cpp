@@ -68,7 +68,7 @@ TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
 
     // Left and right together change nothing but the anchor, under the crosshair.
     ViewSpecs expected = w.form.getViewSpecs(4);
-    drag(w, 3, 0, 0, 40, 40);
+    w.form.picOrtho_MouseMove(3, 3, 0, 40, 40);
     expected.anchorX = 40;
     expected.anchorY = 40;
     EXPECT_EQ(w.form.getViewSpecs(4), expected);
