@@ -1,5 +1,4 @@
 #include "qt/QtCanvas.h"
-#include "qt/CanvasWidget.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,7 +40,7 @@ std::vector<CanvasPoint> square(int left, int top, int right, int bottom) {
 
 } // namespace
 
-TEST(QtCanvas, ResizeKeepsTheOverlapAndAWidgetsCanvasTakesTheWidgetsSize) {
+TEST(QtCanvas, ResizeKeepsTheOverlap) {
     QtCanvas canvas(40, 30);
     canvas.setBackColor(Blue);
     canvas.clear();
@@ -51,13 +50,6 @@ TEST(QtCanvas, ResizeKeepsTheOverlapAndAWidgetsCanvasTakesTheWidgetsSize) {
     // The old picture where the sizes overlap, the new back colour beyond.
     expectPixels(canvas, BluePixel, {{0, 0}, {39, 19}});
     EXPECT_EQ(at(canvas, 40, 0), GreenPixel);
-
-    CanvasWidget widget;
-    widget.resize(120, 90);
-    widget.show();
-    EXPECT_EQ(widget.canvas().image().size(), QSize(120, 90));
-    widget.resize(70, 50);
-    EXPECT_EQ(widget.canvas().image().size(), QSize(70, 50));
 }
 
 TEST(QtCanvas, EveryChangeOfStyleAndColourTakesEffectAndReadingTheImageEndsThePainting) {

@@ -1,5 +1,4 @@
 #include "app/SceneDocument.h"
-#include "geometry/M3Ops.h"
 #include "qt/QtCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
@@ -12,30 +11,19 @@
 
 namespace {
 
-// A square prism standing on the grid at (x, z): the curve is listed so that the sweep's
-// faces point outwards.
-std::shared_ptr<Transformed3d> prism(float x, float y, float z, float half, float height) {
-    auto object = std::make_shared<Transformed3d>();
-    const float corners[5][2] = {
-        {-half, half}, {half, half}, {half, -half}, {-half, -half}, {-half, half}};
-    for (const auto& c : corners) {
-        object->AddCurvePoint(x + c[0], y, z + c[1]);
-    }
-    Matrix4 up;
-    M3Ops::setTranslation(up, 0, height, 0);
-    object->SetTransformation(up);
-    object->Transform(true);
-    object->SetDiffuseCoefficients(0.9f, 0.6f, 0.3f);
-    object->SetAmbientCoefficients(0.5f, 0.5f, 0.5f);
-    object->setSpecularK(0.5f);
-    object->setSpecularN(5);
-    return object;
+// A shaded box standing on the grid at (x, z).
+std::shared_ptr<Transformed3d> box(float x, float y, float z, float half) {
+    auto solid = makeCube(half, x, y + half, z);
+    solid->SetDiffuseCoefficients(0.9f, 0.6f, 0.3f);
+    solid->SetAmbientCoefficients(0.5f, 0.5f, 0.5f);
+    solid->SetSpecularCoefficients(0.5f, 5);
+    return makeObject(solid);
 }
 
 SceneDocument smallScene() {
     SceneDocument document = SceneDocument::startUp();
-    document.solids = {prism(0.8f, 0, -0.3f, 0.25f, 0.8f), prism(-0.2f, 0, -0.9f, 0.2f, 0.5f),
-                       prism(-0.9f, 0, 0.5f, 0.3f, 0.4f)};
+    document.solids = {box(0.8f, 0, -0.3f, 0.25f), box(-0.2f, 0, -0.9f, 0.2f),
+                       box(-0.9f, 0, 0.5f, 0.3f)};
     document.workPlanes.push_back(makeWorkPlane(0.8f, 0, 0, 1.2f, 255 * 256)); // green, at z = 1.2
     return document;
 }
@@ -74,7 +62,7 @@ TEST(SceneImage, IsometricViewShowsTheComputedShadesAndNothingBehindTheEye) {
             solidFaces.push_back(call);
         }
     }
-    ASSERT_GE(solidFaces.size(), 9u); // three prisms, three faces each in view
+    ASSERT_GE(solidFaces.size(), 9u); // three boxes, three faces each in view
     const auto& last = solidFaces.back();
     int x = 0, y = 0;
     for (const auto& p : last.points) {
@@ -88,7 +76,7 @@ TEST(SceneImage, IsometricViewShowsTheComputedShadesAndNothingBehindTheEye) {
     // Nothing behind the eye is drawn.
     float ex, ey, ez;
     KorvanOpsConsts::getEyePosition(isometric(), ex, ey, ez);
-    document.solids.push_back(prism(ex * 1.5f, ey * 1.5f, ez * 1.5f, 1, 1));
+    document.solids.push_back(box(ex * 1.5f, ey * 1.5f, ez * 1.5f, 1));
     QtCanvas withHidden(width, height);
     renderer.redrawViewport(withHidden, isometric(), document.scene());
     EXPECT_EQ(withHidden.image(), image);
