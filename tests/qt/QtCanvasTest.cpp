@@ -134,7 +134,7 @@ TEST(QtCanvas, SavesBmpAndPngOnlyAndABitmapWholeOrNotAtAll) {
         ASSERT_EQ(loaded.size(), QSize(16, 8)) << name;
         EXPECT_EQ(loaded.pixel(3, 3) & 0xFFFFFF, RedPixel) << name;
     }
-    EXPECT_FALSE(canvas.saveImage(folder + "/view.txt"));
+    EXPECT_FALSE(canvas.saveImage(folder + "/view.jpg"));
     EXPECT_FALSE(canvas.saveBitmap(folder + "/missing/view.bmp"));
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries, QDir::Name),
               (QStringList{"saved.bmp", "view.PNG", "view.bmp"}));
