@@ -2,32 +2,22 @@
 
 #include "interaction/ClickHandleScroll.h"
 #include "interaction/ClickHandleZoom.h"
-#include "render/LightSource.h"
-#include "support/RecordingCanvas.h"
-#include "support/ScriptedModalHost.h"
+#include "scene/Profile.h"
+#include "scene/Transformed3d.h"
+#include "support/TestSolids.h"
+#include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-// A main window with four recording canvases attached.
-struct Window {
-    ScriptedModalHost dialogs;
-    std::array<RecordingCanvas, 4> canvases;
-    frmTolvane form{dialogs};
+using Host = ScriptedModalHost;
 
-    Window() {
-        form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
-        form.Form_Load();
-    }
-
-    // A drag from (x0, y0) to (x1, y1) on canvas index: the pointer arrives, then moves
-    // with the given buttons held.
-    void drag(int index, int buttons, float x0, float y0, float x1, float y1) {
-        form.picOrtho_MouseMove(index, 0, 0, x0, y0);
-        form.picOrtho_MouseMove(index, buttons, 0, x1, y1);
-    }
-};
+// A drag on canvas index: the pointer arrives at (x0, y0), then moves with the buttons held.
+void drag(TestWindow& w, int buttons, float x0, float y0, float x1, float y1) {
+    w.form.picOrtho_MouseMove(3, 0, 0, x0, y0);
+    w.form.picOrtho_MouseMove(3, buttons, 0, x1, y1);
+}
 
 // A mode whose left drag leaves the view alone (returns none); it notes what the move
 // handler of the same event receives.
@@ -39,127 +29,131 @@ struct DragReturnsNone : ClickHandleNothing {
     }
 };
 
+// A main window whose document holds three cubes, each with its node in the tree.
+struct Window : TestWindow {
+    Window() {
+        for (int n = 1; n <= 3; ++n) {
+            form.getDocument().solids.push_back(makeObject());
+            form.getSceneTree().addSolidNode(form.getDocument().solids.back(), n, "Solid");
+        }
+    }
+
+    SceneTreeNode& node(const std::string& key) { return *form.getSceneTree().findSceneNode(key); }
+    std::vector<std::string> topNodes() { return ::topNodes(form.getSceneTree()); }
+};
+
 } // namespace
 
-TEST(frmTolvane, StartsWithTheDocumentViewsAndSingleViewport) {
-    Window w;
-    EXPECT_EQ(w.form.caption(), "Korvan Version 2.0");
-    EXPECT_EQ(w.form.getMouseSensivity(), 0.0025f);
-    EXPECT_EQ(w.form.getViewportLayout(), 1);
-    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::SizeAll); // rotate
-
-    const float quarter = static_cast<float>(3.14159265358979 / 2);
-    EXPECT_EQ(w.form.getViewSpecs(1).EyePhi, quarter); // top
-    EXPECT_EQ(w.form.getViewSpecs(2).EyeTheta, 0.0f);  // side
-    EXPECT_EQ(w.form.getViewSpecs(2).EyePhi, 0.0f);
-    EXPECT_EQ(w.form.getViewSpecs(3).EyeTheta, quarter); // front
-    EXPECT_EQ(w.form.getViewSpecs(4).EyeTheta, static_cast<float>(0.6283185307179581));
-    for (int i = 1; i <= 4; ++i) {
-        const ViewSpecs& v = w.form.getViewSpecs(i);
-        EXPECT_EQ(v.zoom, 200.0f);
-        EXPECT_EQ(v.ProjectionType, 1);
-        EXPECT_EQ(v.EyeR, 10.0f);
-        EXPECT_TRUE(v.HideSurfaces);
-        EXPECT_FALSE(v.wireFrame);
-    }
-
-    const LightList& lights = w.form.getDocument().light_sources;
-    ASSERT_EQ(lights.size(), 4u);
-    EXPECT_EQ(lights[0]->x, -300.0f);
-    EXPECT_EQ(lights[0]->y, 300.0f);
-    EXPECT_EQ(lights[3]->y, -300.0f);
-    EXPECT_EQ(lights[1]->Ir, 200.0f);
-
-    // Loading drew every viewport: cleared, then refreshed.
-    for (const auto& canvas : w.canvases) {
-        ASSERT_FALSE(canvas.calls().empty());
-        EXPECT_EQ(canvas.calls().front().kind, RecordingCanvas::Kind::Clear);
-        EXPECT_EQ(canvas.calls().back().kind, RecordingCanvas::Kind::Refresh);
-    }
-}
-
-TEST(frmTolvane, NavigationModesFollowTheMouseFromTheAnchor) {
-    Window w;
+TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
+    TestWindow w;
     w.form.setMouseSensivity(0.01f);
     const ViewSpecs before = w.form.getViewSpecs(4);
-    w.drag(3, 1, 100, 100, 110, 95);
+    drag(w, 1, 100, 100, 110, 95);
     const ViewSpecs& turned = w.form.getViewSpecs(4);
     EXPECT_NEAR(turned.EyeTheta - before.EyeTheta, 0.1, 1e-6);
     EXPECT_NEAR(turned.EyePhi - before.EyePhi, -0.05, 1e-6);
     EXPECT_EQ(turned.anchorX, 110);
     EXPECT_EQ(turned.anchorY, 95);
     EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::SizeAll);
-    // Only the record of the canvas under the mouse changes.
-    EXPECT_EQ(w.form.getViewSpecs(1).EyeTheta, 0.0f);
+    EXPECT_EQ(w.form.getViewSpecs(1).EyeTheta, 0.0f); // only the record under the mouse
 
     w.form.setMouseSensivity(0.0025f);
     w.form.setMouseMode(std::make_unique<ClickHandleZoom>());
-    w.drag(3, 1, 0, 0, 50, 0);
-    EXPECT_EQ(w.form.getViewSpecs(4).zoom, 200.0f);
-    w.drag(3, 1, 0, 0, 0, 30);
+    drag(w, 1, 0, 0, 0, 30);
     EXPECT_NEAR(w.form.getViewSpecs(4).zoom, 225.0f, 1e-4);
-
     w.form.setMouseMode(std::make_unique<ClickHandleScroll>());
-    w.drag(3, 1, 0, 0, 4, -2);
+    drag(w, 1, 0, 0, 4, -2);
     EXPECT_NEAR(w.form.getViewSpecs(4).shiftx, 5.0f, 1e-5);
     EXPECT_NEAR(w.form.getViewSpecs(4).shifty, -2.5f, 1e-5);
 
     // Left and right together change nothing but the anchor, under the crosshair.
-    const ViewSpecs held = w.form.getViewSpecs(4);
-    w.drag(3, 3, 0, 0, 40, 40);
-    ViewSpecs expected = held;
+    ViewSpecs expected = w.form.getViewSpecs(4);
+    w.form.picOrtho_MouseMove(3, 3, 0, 40, 40);
     expected.anchorX = 40;
     expected.anchorY = 40;
     EXPECT_EQ(w.form.getViewSpecs(4), expected);
     EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::Crosshair);
-}
 
-TEST(frmTolvane, APositionFarOffTheCanvasCountsAsAMillionPixelsOff) {
-    Window w;
-    w.drag(3, 1, 3e9f, 0, -3e9f, 1e30f);
+    // A position far off the canvas counts as a million pixels off.
+    drag(w, 3, 3e9f, 0, -3e9f, 1e30f);
     EXPECT_EQ(w.form.getViewSpecs(4).anchorX, -(1 << 20));
     EXPECT_EQ(w.form.getViewSpecs(4).anchorY, 1 << 20);
-}
 
-TEST(frmTolvane, MoveHandlerGetsNoViewAfterALeftDragHandlerReturnedNone) {
-    Window w;
     auto mode = std::make_unique<DragReturnsNone>();
     const auto& moveGotView = mode->moveGotView;
     w.form.setMouseMode(std::move(mode));
-    w.drag(3, 1, 10, 10, 20, 20);
+    drag(w, 1, 10, 10, 20, 20);
     ASSERT_EQ(moveGotView.size(), 2u);
     EXPECT_TRUE(moveGotView[0]);  // no button: the copy of the record
     EXPECT_FALSE(moveGotView[1]); // left drag: what the drag handler returned
+
+    w.dialogs.queueDialog({Host::scroll("HScroll1", 1), Host::press("mnuAccept")});
+    w.choose({"&Options", "&Set Mouse Sensivity"});
+    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+    w.dialogs.queueDialog({Host::scroll("HScroll1", 1000), Host::press("mnuCancel")});
+    w.choose({"&Options", "&Set Mouse Sensivity"});
+    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
 }
 
-TEST(frmTolvane, RightPressRemembersItsViewportAndViewInfoIsACopy) {
+TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumbers) {
     Window w;
-    const ViewSpecs before = w.form.getViewSpecs(2);
-    w.form.picOrtho_MouseDown(1, 2, 0, 10, 10);
-    EXPECT_EQ(w.form.getPopupViewport(), 2);
-    EXPECT_EQ(w.form.getViewSpecs(2), before);
+    w.form.TreeView1_NodeClick(w.node("f3-s2"));
+    const auto face = w.form.getDocument().solids[1]->getFaces()[2];
+    EXPECT_TRUE(face->isSelected());
+    EXPECT_EQ(w.node("f3-s2").BackColor, 16776960);
 
-    EXPECT_FALSE(w.form.getViewInfo(0));
-    EXPECT_FALSE(w.form.getViewInfo(5));
-    auto info = w.form.getViewInfo(4);
-    ASSERT_TRUE(info);
-    ViewSpecs changed = info->getSpecs();
-    changed.zoom = 1;
-    info->setSpecs(changed);
-    EXPECT_EQ(w.form.getViewSpecs(4).zoom, 200.0f);
-}
+    // The "Points" child: the whole selection cleared, nothing selected.
+    w.form.TreeView1_NodeClick(*w.node("s1").children()[0]);
+    EXPECT_FALSE(face->isSelected());
+    EXPECT_EQ(w.node("f3-s2").BackColor, 16777215);
+    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
 
-TEST(frmTolvane, SetMouseSensivityRunsTheDialogModally) {
-    Window w;
-    w.dialogs.queueDialog(
-        {ScriptedModalHost::scroll("HScroll1", 1), ScriptedModalHost::press("mnuAccept")});
-    w.form.mnuSetMouseSensivity_Click();
-    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+    // Delete on a face node removes nothing.
+    w.form.TreeView1_NodeClick(w.node("f3-s2"));
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
+    EXPECT_EQ(w.form.getDocument().solids.size(), 3u);
+    EXPECT_EQ(w.node("f3-s2").BackColor, 16776960); // the rebuilt tree keeps it painted
 
-    w.dialogs.queueDialog(
-        {ScriptedModalHost::scroll("HScroll1", 1000), ScriptedModalHost::press("mnuCancel")});
-    w.form.mnuSetMouseSensivity_Click();
-    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
-    EXPECT_EQ(w.dialogs.shown(),
-              (std::vector<std::string>{"Set Mouse Sensivity", "Set Mouse Sensivity"}));
+    const auto third = w.form.getDocument().solids[2];
+    w.form.TreeView1_NodeClick(w.node("s2"));
+    EXPECT_TRUE(w.form.getDocument().solids[1]->isSelected());
+    EXPECT_EQ(w.node("s2").BackColor, 255);
+    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
+    ASSERT_EQ(w.form.getDocument().solids.size(), 2u);
+    EXPECT_EQ(w.form.getDocument().solids[1], third);
+    // The deleted solid is no longer selected, so Properties cannot reach it.
+    EXPECT_TRUE(w.form.getSelection().selectedSolids.empty());
+    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 1", "s2: Solid 2"}));
+    // After the rebuild no node is selected: Delete removes nothing more.
+    w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
+    EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
+
+    // Removing leaves the texts until a key rebuilds the tree; the selected solid's new node
+    // keeps the selection's colour.
+    w.form.TreeView1_NodeClick(w.node("s2"));
+    w.form.removeSolid(1, "s1");
+    EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 2"}));
+    w.form.TreeView1_KeyDown('A');
+    EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 1"}));
+    EXPECT_EQ(w.node("s1").BackColor, 255);
+
+    // A profile alone keeps the Property menu until another update.
+    auto profile = std::make_shared<Profile>();
+    w.form.getDocument().profiles.push_back(profile);
+    w.form.getSceneTree().addProfileNode(profile, "Profile");
+    w.form.TreeView1_NodeClick(w.node("r1"));
+    EXPECT_TRUE(profile->isSelected());
+    EXPECT_EQ(w.node("r1").BackColor, 16711935);
+    // Selecting a profile leaves the menu be; the next update sees the profile.
+    w.form.resetSelectFaces();
+    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+
+    w.form.resetSelectProfiles();
+    EXPECT_FALSE(profile->isSelected());
+    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+    w.form.resetSelectWorkplanes();
+    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
 }

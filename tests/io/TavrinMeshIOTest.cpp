@@ -8,36 +8,25 @@
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
+#include "support/FaultyFileSystem.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedPrompts.h"
+#include "support/TempFolder.h"
 #include "support/TestSolids.h"
-
-#include "support/FaultyFileSystem.h"
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-
-// A fresh folder per test, removed with everything in it afterwards.
-struct TempFolder {
-    fs::path path = fs::temp_directory_path() /
-                    ("korvan-tvm-" + std::to_string(::getpid()) + "-" +
-                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    TempFolder() { fs::create_directories(path); }
-    ~TempFolder() { fs::remove_all(path); }
-    std::string file(const std::string& name) const { return (path / name).string(); }
-    std::vector<fs::path> entries() const { return {fs::directory_iterator(path), {}}; }
-};
+const float nan = std::numeric_limits<float>::quiet_NaN();
+const float inf = std::numeric_limits<float>::infinity();
 
 // File content from a list of values, each one an int32 or a float32.
 struct Values {
@@ -66,10 +55,8 @@ Bytes saved(const ObjectList& objects, const std::string& file) {
     return contentOf(TavrinMeshIO::normalizeFileName(file));
 }
 
-std::shared_ptr<Transformed3d> objectWith(std::shared_ptr<Solid3d> solid) {
-    auto object = std::make_shared<Transformed3d>();
-    object->setSolid(std::move(solid));
-    return object;
+ObjectList opened(std::string name) {
+    return TavrinMeshIO().OpenFile(name).value();
 }
 
 // One triangle: points (1, -2, 0.5), (0, 1, 0), (-0, 0, 1); face order 1, coefficients 10..17.
@@ -80,12 +67,12 @@ ObjectList triangleDocument() {
     solid->SetAmbientCoefficients(10, 11, 12);
     solid->SetDiffuseCoefficients(13, 14, 15);
     solid->SetSpecularCoefficients(16, 17);
-    return {objectWith(solid)};
+    return {makeObject(solid)};
 }
 
 // Odd values everywhere: signed zeros, denormals, the largest floats, an order number that
 // is kept as stored, faces of four, two, none, one and three corners, and the largest
-// exponent accepted; then an ordinary cube.
+// exponent accepted; then a cube with the largest coefficient and the lowest exponent.
 ObjectList mixedDocument() {
     const float tiny = std::numeric_limits<float>::denorm_min();
     const float huge = std::numeric_limits<float>::max();
@@ -100,7 +87,9 @@ ObjectList mixedDocument() {
     solid->SetAmbientCoefficients(-0.0f, tiny, 1e-40f);
     solid->SetDiffuseCoefficients(1, 0.5f, 1.0f / 3);
     solid->SetSpecularCoefficients(-0.0f, 32767);
-    return {objectWith(solid), objectWith(makeCube(0.5f, 1, 2, 3))};
+    auto cube = makeCube(0.5f, 1, 2, 3);
+    cube->SetSpecularCoefficients(huge, -32768);
+    return {makeObject(solid), makeObject(cube)};
 }
 
 // Draws the objects in every display mode; what matters is that it returns.
@@ -123,10 +112,10 @@ void drawEveryWay(const ObjectList& objects) {
 
 } // namespace
 
-TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFile) {
+TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFileOrNothingAtAll) {
     TempFolder folder;
     const std::string file = folder.file("t.tvm");
-    const Bytes old = saved({objectWith(makeCube())}, file);
+    const Bytes old = saved({makeObject(makeCube())}, file);
     const Bytes bytes = saved(triangleDocument(), file);
     // Points, then the face: order 1, 3 indices, ambient 10 11 12, diffuse 13 14 15, 16, 17.
     const Bytes triangle = Values()
@@ -138,38 +127,46 @@ TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFile) {
     Bytes expected = triangle; // and the old file's tail behind it
     expected.insert(expected.end(), old.begin() + std::ssize(triangle), old.end());
     EXPECT_EQ(bytes, expected);
-    // The byte order itself, value by value: 1, 3, 1.0f, then -0.0f.
+    // The byte order itself, value by value: 1, 3, 1.0f.
     EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + 12),
-              (Bytes{1, 0, 0, 0, 3, 0, 0, 0, 0x00, 0x00, 0x80, 0x3F}));
-    EXPECT_EQ(Bytes(bytes.begin() + 32, bytes.begin() + 36), (Bytes{0x00, 0x00, 0x00, 0x80}));
+              (Bytes{1, 0, 0, 0, 3, 0, 0, 0, 0, 0, 0x80, 0x3F}));
     // Only the new document is read back.
-    std::string name = file;
-    EXPECT_EQ(saved(TavrinMeshIO().OpenFile(name).value(), folder.file("again.tvm")), triangle);
+    EXPECT_EQ(saved(opened(file), folder.file("again.tvm")), triangle);
 
     EXPECT_EQ(saved({}, folder.file("empty.tvm")), (Bytes{0, 0, 0, 0}));
     // A never-filled solid still has its one record at the origin; an object without a
     // solid has no points at all.
     auto pointsOnly = std::make_shared<Solid3d>();
     pointsOnly->addPointsArray(std::vector<float>{1, 2, 3});
-    EXPECT_EQ(saved({objectWith(pointsOnly), objectWith(std::make_shared<Solid3d>()),
+    EXPECT_EQ(saved({makeObject(pointsOnly), makeObject(std::make_shared<Solid3d>()),
                      std::make_shared<Transformed3d>()},
                     folder.file("small.tvm")),
               Values().i(3, 1).f(1, 2, 3).i(0, 1).f(0, 0, 0).i(0, 0, 0).bytes());
-}
 
-TEST(TavrinMeshIO, NamesAreCleanedAndGetTheExtension) {
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName("scene"), "scene.tvm");
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName("scene.tvm"), "scene.tvm");
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName("scene.TVM"), "scene.TVM.tvm");
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName(std::string("scene.tvm\0   ", 13)), "scene.tvm");
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName("  a\tb\x7f\xc3\xa9.tvm "), "a b   .tvm");
-    EXPECT_EQ(TavrinMeshIO::normalizeFileName("\xc3\xa9"), ".tvm");
+    // What an extrusion that overflows or a typed exponent can make, the reader would refuse:
+    // the document is not saved and the old file stays as it was.
+    const struct {
+        const char* what;
+        float specularK, specularN, x;
+    } breaks[] = {{"exponent 32768", 0, 32768, 0},
+                  {"exponent -32769", 0, -32769, 0},
+                  {"NaN coefficient", nan, 1, 0},
+                  {"infinite coordinate", 0, 1, -inf},
+                  {"NaN coordinate", 0, 1, nan}};
+    for (const auto& b : breaks) {
+        auto broken = makeCube();
+        broken->setSpecularK(b.specularK);
+        broken->setSpecularN(b.specularN);
+        broken->addPointsArray(std::vector{b.x, 0.f, 0.f});
+        TavrinMeshIO io;
+        EXPECT_FALSE(io.saveFile({makeObject(broken)}, file)) << b.what;
+        EXPECT_EQ(io.getLastError(), FileError::unstorableValue) << b.what;
+        EXPECT_EQ(contentOf(file), bytes) << b.what;
+    }
 }
 
 TEST(TavrinMeshIO, CorruptFilesAreRejected) {
     const int32_t big = std::numeric_limits<int32_t>::max();
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float inf = std::numeric_limits<float>::infinity();
     const auto triangle = [](int32_t a, int32_t b, int32_t c) {
         return Values().i(1, 3).f(0, 0, 0, 1, 0, 0, 0, 1, 0).i(1, 1, 3, a, b, c);
     };
@@ -185,10 +182,8 @@ TEST(TavrinMeshIO, CorruptFilesAreRejected) {
         {"huge index count", Values().i(1, 1).f(0, 0, 0).i(1, 1, big, 1).coefficients().bytes()},
         {"index 0", triangle(0, 2, 3).coefficients().bytes()},
         {"index beyond the points", triangle(1, 2, 4).coefficients().bytes()},
-        {"negative index", triangle(1, -2, 3).coefficients().bytes()},
         {"index into a solid without points", Values().i(1, 0, 1, 1, 1, 1).coefficients().bytes()},
         {"NaN coordinate", Values().i(1, 1).f(0, nan, 0).i(0).bytes()},
-        {"infinite coordinate", Values().i(1, 1).f(-inf, 0, 0).i(0).bytes()},
         {"NaN coefficient", triangle(1, 2, 3).f(0, 0, 0, 0, 0, 0, 0, nan).bytes()},
         {"exponent beyond 16 bits", triangle(1, 2, 3).f(0, 0, 0, 0, 0, 0, 0, 32768).bytes()},
         {"infinite coefficient", triangle(1, 2, 3).f(inf).coefficients().bytes()},
@@ -198,22 +193,13 @@ TEST(TavrinMeshIO, CorruptFilesAreRejected) {
     }
 
     // An object count of 0 or below is an empty document, whatever follows.
-    for (const int32_t count : {0, -1, std::numeric_limits<int32_t>::min()}) {
-        const auto parsed = TavrinMeshIO::parse(Values().i(count, 99).f(1).bytes());
-        ASSERT_TRUE(parsed) << count;
-        EXPECT_TRUE(parsed->empty());
-    }
-    TempFolder folder;
-    std::string missing = folder.file("missing");
-    EXPECT_FALSE(TavrinMeshIO().OpenFile(missing));
-    EXPECT_EQ(missing, folder.file("missing.tvm")); // normalised for the caller's message
+    EXPECT_TRUE(TavrinMeshIO::parse(Values().i(-1, 99).f(1).bytes()).value().empty());
 }
 
 TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
     TempFolder folder;
     const Bytes valid = saved(mixedDocument(), folder.file("doc.tvm"));
-    std::string name = folder.file("doc.tvm");
-    const ObjectList loaded = TavrinMeshIO().OpenFile(name).value();
+    const ObjectList loaded = opened(folder.file("doc.tvm"));
     EXPECT_EQ(saved(loaded, folder.file("again.tvm")), valid);
     const auto& solid = *loaded[0]->getSolid();
     EXPECT_EQ(solid.getPointRecord(2).coord.w, 1.0f);
@@ -233,50 +219,15 @@ TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
         for (const int damaged : {b ^ 0xFF, 0x80, 0x7F, 0x00, (b + 1) & 0xFF}) {
             Bytes bytes = valid;
             bytes[at] = static_cast<uint8_t>(damaged);
-            if (const auto objects = TavrinMeshIO::parse(bytes)) {
-                ++accepted;
+            const auto objects = TavrinMeshIO::parse(bytes);
+            accepted += objects ? 1 : 0;
+            // Drawn for one damage of each byte; the reader's fuzz run draws whatever it takes.
+            if (objects && damaged == (b ^ 0xFF)) {
                 drawEveryWay(*objects);
             }
         }
     }
     EXPECT_GT(accepted, 0u); // coordinates and coefficients take most values
-}
-
-TEST(TavrinMeshIO, SavesEveryValueTheEditorMakesOrRefusesTheDocumentKeepingTheOldFile) {
-    TempFolder folder;
-    const std::string file = folder.file("values.tvm");
-    // The extremes that read back bit for bit (mixedDocument has the rest).
-    auto solid = makeCube();
-    solid->SetSpecularCoefficients(std::numeric_limits<float>::max(), -32768);
-    const Bytes old = saved({objectWith(solid)}, file);
-    std::string name = file;
-    EXPECT_EQ(saved(TavrinMeshIO().OpenFile(name).value(), folder.file("again.tvm")), old);
-
-    // What an extrusion that overflows or a typed exponent can make, the reader would refuse.
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float inf = std::numeric_limits<float>::infinity();
-    const std::vector<std::pair<const char*, std::function<void(Solid3d&)>>> breaks = {
-        {"exponent 32768", [](Solid3d& s) { s.setSpecularN(32768); }},
-        {"exponent -32769", [](Solid3d& s) { s.setSpecularN(-32769); }},
-        {"NaN coefficient", [&](Solid3d& s) { s.setSpecularK(nan); }},
-        {"infinite coefficient", [&](Solid3d& s) { s.SetDiffuseCoefficients(0, -inf, 0); }},
-        {"infinite coordinate",
-         [&](Solid3d& s) {
-             s.addPointsArray(std::vector{inf, 0.f, 0.f});
-         }},
-        {"NaN coordinate",
-         [&](Solid3d& s) {
-             s.addPointsArray(std::vector{0.f, 0.f, nan});
-         }},
-    };
-    for (const auto& [what, breakIt] : breaks) {
-        auto broken = makeCube();
-        breakIt(*broken);
-        TavrinMeshIO io;
-        EXPECT_FALSE(io.saveFile({objectWith(broken)}, file)) << what;
-        EXPECT_EQ(io.getLastError(), FileError::unstorableValue) << what;
-        EXPECT_EQ(contentOf(file), old) << what;
-    }
 }
 
 TEST(TavrinMeshIO, OpenFailuresSayWhatHappened) {
@@ -293,7 +244,7 @@ TEST(TavrinMeshIO, OpenFailuresSayWhatHappened) {
     FaultyFileSystem unreadable;
     unreadable.failAll(FaultyFileSystem::Call::openToRead, std::errc::permission_denied);
     EXPECT_EQ(openError(unreadable, file), std::errc::permission_denied);
-    EXPECT_EQ(openError(real, folder.file("missing.tvm")), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(openError(real, folder.file("missing")), std::errc::no_such_file_or_directory);
     fs::create_symlink("loop.tvm", folder.file("loop.tvm"));
     EXPECT_EQ(openError(real, folder.file("loop.tvm")), std::errc::too_many_symbolic_link_levels);
     fs::create_directory(folder.file("folder.tvm"));
@@ -303,9 +254,6 @@ TEST(TavrinMeshIO, OpenFailuresSayWhatHappened) {
     EXPECT_EQ(openError(real, folder.file("zero.tvm")), FileError::notRegularFile);
     ASSERT_EQ(::mkfifo(folder.file("pipe.tvm").c_str(), 0600), 0);
     EXPECT_EQ(openError(real, folder.file("pipe.tvm")), FileError::notRegularFile);
-    Bytes cut = contentOf(file);
-    cut.pop_back();
-    std::ofstream(folder.file("cut.tvm"), std::ios::binary)
-        .write(reinterpret_cast<const char*>(cut.data()), std::ssize(cut));
+    std::ofstream(folder.file("cut.tvm")) << "abc";
     EXPECT_EQ(openError(real, folder.file("cut.tvm")), FileError::corrupt);
 }

@@ -1,18 +1,8 @@
 #include "qt/CanvasWidget.h"
 
-#include <QApplication>
-#include <QMouseEvent>
+#include "support/QtInput.h"
+
 #include <gtest/gtest.h>
-
-namespace {
-
-void send(QWidget& widget, QEvent::Type type, Qt::MouseButtons buttons) {
-    const QPointF at(5, 5);
-    QMouseEvent event(type, at, widget.mapToGlobal(at), Qt::LeftButton, buttons, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
-
-} // namespace
 
 TEST(CanvasWidget, ADoubleClickIsTwoPresses) {
     CanvasWidget widget;
@@ -24,10 +14,8 @@ TEST(CanvasWidget, ADoubleClickIsTwoPresses) {
                      });
     // What Qt delivers for a double-click: the second press comes twice, the second time as
     // a double-click.
-    send(widget, QEvent::MouseButtonPress, Qt::LeftButton);
-    send(widget, QEvent::MouseButtonRelease, Qt::NoButton);
-    send(widget, QEvent::MouseButtonPress, Qt::LeftButton);
-    send(widget, QEvent::MouseButtonDblClick, Qt::LeftButton);
-    send(widget, QEvent::MouseButtonRelease, Qt::NoButton);
+    click(widget, {5, 5});
+    sendMouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonDblClick, {5, 5}, Qt::LeftButton, Qt::LeftButton);
     EXPECT_EQ(presses, 2);
 }

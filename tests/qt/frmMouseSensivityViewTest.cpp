@@ -1,64 +1,49 @@
 #include "qt/frmMouseSensivityView.h"
 
 #include "qt/QtModalHost.h"
+#include "support/QtInput.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <stdexcept>
-
-namespace {
-
-void click(QWidget& widget, QPoint at) {
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const Qt::MouseButtons held =
-            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        QMouseEvent event(type, at, widget.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
-        QApplication::sendEvent(&widget, &event);
-    }
-}
-
-void key(QWidget& widget, Qt::Key code) {
-    QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
-
-} // namespace
 
 TEST(frmMouseSensivityView, TheBarMovesTheWayItIsDrawn) {
     frmMouseSensivity form;
     form.setSensivityDisplayValue(0.0025f);
     frmMouseSensivityView view(form);
-    view.show();
-    QApplication::processEvents();
+    showNow(view);
+    // Positions count from the bar's left end, beside "Dull", where the value is 1000.
     QScrollBar& bar = view.scrollBar();
-
-    // The arrow at the right end, beside "Nervous", makes the mouse more nervous, 1 % a click.
-    const QPoint rightArrow(bar.width() - 3, bar.height() / 2);
-    for (int i = 0; i < 15; ++i) {
-        click(bar, rightArrow);
-    }
-    EXPECT_EQ(form.HScroll1.Value, 250);
-    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75%");
-
-    key(bar, Qt::Key_Home); // the left end: "Dull"
+    EXPECT_EQ(bar.value(), 600);
+    bar.setValue(751);
+    EXPECT_EQ(form.HScroll1.Value, 249);
+    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75.1%");
+    key(bar, Qt::Key_Home);
     EXPECT_EQ(form.HScroll1.Value, 1000);
-    key(bar, Qt::Key_End);
-    EXPECT_EQ(form.HScroll1.Value, 1);
-
+    key(bar, Qt::Key_Right); // an arrow step is 1 %
+    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 1%");
     key(bar, Qt::Key_Return); // the dialog accepts
     EXPECT_TRUE(form.isClosed());
 }
 
-TEST(QtModalHost, RunsTheDialogsViewUntilTheDialogCloses) {
+TEST(QtModalHost, RunsTheDialogsViewUntilTheDialogClosesAndAClosedOneNotAtAll) {
     QtModalHost host;
     frmMouseSensivity form;
     EXPECT_THROW(host.showModal(form), std::logic_error); // no view registered yet
-
     host.registerView<frmMouseSensivity, frmMouseSensivityView>();
+
+    // A dialog that closed while it was set up (an initialize that refused) is not shown.
+    frmMouseSensivity closed;
+    closed.mnuCancel_Click();
+    QTimer::singleShot(0, [] {
+        if (QWidget* open = QApplication::activeModalWidget()) {
+            ADD_FAILURE() << "a closed dialog was shown";
+            open->close();
+        }
+    });
+    host.showModal(closed);
+    QApplication::processEvents();
+
     QTimer::singleShot(0, [] {
         auto* view = qobject_cast<frmMouseSensivityView*>(QApplication::activeModalWidget());
         if (view == nullptr) {

@@ -1,7 +1,7 @@
 #include "qt/frmSplashView.h"
 
-#include <QApplication>
-#include <QKeyEvent>
+#include "support/QtInput.h"
+
 #include <gtest/gtest.h>
 
 TEST(frmSplashView, KeyPressFinishesTheSplash) {
@@ -9,13 +9,8 @@ TEST(frmSplashView, KeyPressFinishesTheSplash) {
     frmSplashView splash(form);
     bool finished = false;
     QObject::connect(&splash, &frmSplashView::finished, [&finished] { finished = true; });
-    splash.show();
-    EXPECT_EQ(splash.windowTitle(), QString("Korvan Version 2"));
-    // Let the window take its size before the key arrives.
-    QApplication::processEvents();
-
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ");
-    QApplication::sendEvent(&splash, &press);
+    showNow(splash); // the window takes its size before the key arrives
+    key(splash, Qt::Key_Space, " ");
     EXPECT_TRUE(finished);
     EXPECT_TRUE(form.isClosed());
     EXPECT_FALSE(splash.isVisible());

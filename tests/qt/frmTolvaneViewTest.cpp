@@ -4,25 +4,14 @@
 #include "qt/CanvasWidget.h"
 #include "qt/SceneTreeView.h"
 #include "scene/Transformed3d.h"
-#include "support/ScriptedModalHost.h"
-#include "support/ScriptedPrompts.h"
+#include "support/ShownWindow.h"
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <stdexcept>
 
 namespace {
-
-void sendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
-               Qt::MouseButtons buttons) {
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
 
 // A mode whose left press fails the way an unforeseen fault would.
 struct FailingMode : ClickHandleNothing {
@@ -34,13 +23,11 @@ struct FailingMode : ClickHandleNothing {
 // The action reached from a menu bar or menu by its captions, or nullptr.
 QAction* findAction(const QWidget& menu, const QStringList& path) {
     for (QAction* action : menu.actions()) {
-        if (action->text() != path.first()) {
-            continue;
+        if (action->text() == path.first()) {
+            return path.size() == 1            ? action
+                   : action->menu() != nullptr ? findAction(*action->menu(), path.mid(1))
+                                               : nullptr;
         }
-        if (path.size() == 1) {
-            return action;
-        }
-        return action->menu() != nullptr ? findAction(*action->menu(), path.mid(1)) : nullptr;
     }
     return nullptr;
 }
@@ -48,29 +35,15 @@ QAction* findAction(const QWidget& menu, const QStringList& path) {
 } // namespace
 
 TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) {
-    ScriptedPrompts prompts;
-    ScriptedModalHost dialogs;
-    frmTolvane form(dialogs);
-    frmTolvaneView window(form);
-    window.resize(1000, 700);
-    window.show();
-    QApplication::processEvents();
-    QMenuBar& bar = *window.menuBar();
-
-    QAction* four = findAction(bar, {"&Options", "&Set Viewports", "&Four Windows"});
-    ASSERT_NE(four, nullptr);
-    four->trigger();
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_TRUE(window.picOrtho(i).isVisible()) << i;
-    }
-
+    ShownWindow s;
+    QMenuBar& bar = *s.window.menuBar();
+    findAction(bar, {"&Options", "&Set Viewports", "&Four Windows"})->trigger();
+    EXPECT_TRUE(s.window.picOrtho(0).isVisible());
     QAction* parallel = findAction(bar, {"&View", "&Projection Type", "P&arallel"});
     ASSERT_NE(parallel, nullptr);
     EXPECT_EQ(parallel->shortcut(), QKeySequence(Qt::Key_F1));
     parallel->trigger();
-    for (int number = 1; number <= 4; ++number) {
-        EXPECT_EQ(form.getViewSpecs(number).ProjectionType, 0) << number;
-    }
+    EXPECT_EQ(s.form.getViewSpecs(3).ProjectionType, 0);
     findAction(bar, {"&View", "&Projection Type", "P&erspective"})->trigger();
 
     QAction* grid = findAction(bar, {"&View", "&Display", "&Grid"});
@@ -85,16 +58,44 @@ TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) 
     QTimer::singleShot(0, [] {
         auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_NE(popup, nullptr);
-        QAction* item = findAction(*popup, {"&Projection Type", "P&arallel"});
-        ASSERT_NE(item, nullptr);
-        item->trigger();
+        findAction(*popup, {"&Projection Type", "P&arallel"})->trigger();
         popup->close();
     });
-    sendMouse(window.picOrtho(1), QEvent::MouseButtonPress, {20, 20}, Qt::RightButton,
+    sendMouse(s.window.picOrtho(1), QEvent::MouseButtonPress, {20, 20}, Qt::RightButton,
               Qt::RightButton);
-    EXPECT_EQ(form.getViewSpecs(2).ProjectionType, 0);
-    EXPECT_EQ(form.getViewSpecs(1).ProjectionType, 1);
-    EXPECT_EQ(form.getViewSpecs(4).ProjectionType, 1);
+    EXPECT_EQ(s.form.getViewSpecs(2).ProjectionType, 0);
+    EXPECT_EQ(s.form.getViewSpecs(1).ProjectionType, 1);
+}
+
+TEST(frmTolvaneView, KeysAndMouseReachTheWindowAndAFailingCommandIsReported) {
+    ShownWindow s;
+    // C closes the profile being drawn; with none, the window says so.
+    key(s.window.picOrtho(3), Qt::Key_C, "c");
+    ASSERT_EQ(s.prompts.messages().size(), 1u);
+    EXPECT_EQ(s.prompts.messages()[0].title, "Error Closing Profile");
+    s.prompts.forget();
+
+    CanvasWidget& viewport = s.window.picOrtho(3);
+    const QImage before = viewport.canvas().image();
+    const ViewSpecs specsBefore = s.form.getViewSpecs(4);
+    sendMouse(viewport, QEvent::MouseMove, {300, 300}, Qt::NoButton, Qt::NoButton);
+    sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(viewport, QEvent::MouseMove, {360, 330}, Qt::NoButton, Qt::LeftButton);
+    sendMouse(viewport, QEvent::MouseButtonRelease, {360, 330}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_NE(s.form.getViewSpecs(4).EyeTheta, specsBefore.EyeTheta);
+    EXPECT_NE(s.form.getViewSpecs(4).EyePhi, specsBefore.EyePhi);
+    EXPECT_NE(viewport.canvas().image(), before);
+    EXPECT_EQ(viewport.cursor().shape(), Qt::SizeAllCursor);
+
+    s.form.getDocument().solids.push_back(std::make_shared<Transformed3d>());
+    s.form.setMouseMode(std::make_unique<FailingMode>());
+    sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
+    ASSERT_EQ(s.prompts.messages().size(), 1u);
+    EXPECT_EQ(s.prompts.messages()[0].text, "The command could not be completed: no memory left");
+    EXPECT_EQ(s.form.getDocument().solids.size(), 1u);
+    // The next event is handled as usual.
+    sendMouse(viewport, QEvent::MouseMove, {310, 300}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(s.form.getViewSpecs(4).anchorX, 310);
 }
 
 // What the window's logic hears of the keys.
@@ -115,8 +116,7 @@ TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
     ScriptedModalHost dialogs;
     frmTolvane form(dialogs);
     frmTolvaneView window(form);
-    window.show();
-    QApplication::processEvents();
+    showNow(window);
     EXPECT_EQ(window.centralWidget()->size(),
               QSize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight));
 
@@ -124,63 +124,14 @@ TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
     form.setUserEventListener(&heard);
     for (QWidget* target :
          {static_cast<QWidget*>(&window.picOrtho(3)), static_cast<QWidget*>(&window.TreeView1())}) {
-        for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Control, Qt::Key_A,
-                                  Qt::Key_Enter, Qt::Key_Delete}) {
-            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-            QApplication::sendEvent(target, &press);
+        for (const Qt::Key code : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Control, Qt::Key_A,
+                                   Qt::Key_Enter, Qt::Key_Delete}) {
+            key(*target, code);
         }
     }
     form.setUserEventListener(nullptr);
     EXPECT_EQ(heard.window, (std::vector<int>{65, 13, 46}));
     EXPECT_EQ(heard.tree, (std::vector<int>{65, 13, 46}));
-}
-
-TEST(frmTolvaneView, LeftDragOnTheViewportTurnsTheView) {
-    ScriptedModalHost dialogs;
-    frmTolvane form(dialogs);
-    frmTolvaneView window(form);
-    window.resize(1000, 700);
-    window.show();
-    QApplication::processEvents();
-    EXPECT_EQ(window.windowTitle(), QString("Korvan Version 2.0"));
-    CanvasWidget& viewport = window.picOrtho(3);
-    ASSERT_TRUE(viewport.isVisible());
-    ASSERT_GT(viewport.width(), 500);
-    const QImage before = viewport.canvas().image();
-    const ViewSpecs specsBefore = form.getViewSpecs(4);
-
-    sendMouse(viewport, QEvent::MouseMove, {300, 300}, Qt::NoButton, Qt::NoButton);
-    sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
-    sendMouse(viewport, QEvent::MouseMove, {360, 330}, Qt::NoButton, Qt::LeftButton);
-    sendMouse(viewport, QEvent::MouseButtonRelease, {360, 330}, Qt::LeftButton, Qt::NoButton);
-
-    EXPECT_NE(form.getViewSpecs(4).EyeTheta, specsBefore.EyeTheta);
-    EXPECT_NE(form.getViewSpecs(4).EyePhi, specsBefore.EyePhi);
-    EXPECT_NE(viewport.canvas().image(), before);
-    EXPECT_EQ(viewport.cursor().shape(), Qt::SizeAllCursor);
-}
-
-TEST(frmTolvaneView, AFailingCommandIsReportedAndTheWindowGoesOn) {
-    ScriptedPrompts prompts;
-    ScriptedModalHost dialogs;
-    frmTolvane form(dialogs);
-    frmTolvaneView window(form);
-    window.resize(1000, 700);
-    window.show();
-    QApplication::processEvents();
-    form.getDocument().solids.push_back(std::make_shared<Transformed3d>());
-    form.setMouseMode(std::make_unique<FailingMode>());
-    CanvasWidget& viewport = window.picOrtho(3);
-
-    sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
-    ASSERT_EQ(prompts.messages().size(), 1u);
-    EXPECT_EQ(prompts.messages()[0].text, "The command could not be completed: no memory left");
-    EXPECT_EQ(prompts.messages()[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(form.getDocument().solids.size(), 1u);
-
-    // The next event is handled as usual.
-    sendMouse(viewport, QEvent::MouseMove, {310, 300}, Qt::NoButton, Qt::NoButton);
-    EXPECT_EQ(form.getViewSpecs(4).anchorX, 310);
 }
 
 int main(int argc, char** argv) {

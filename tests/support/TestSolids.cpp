@@ -20,6 +20,30 @@ std::shared_ptr<Solid3d> makeCube(float h, float cx, float cy, float cz) {
     return cube;
 }
 
+std::shared_ptr<Transformed3d> makeObject(std::shared_ptr<Solid3d> solid) {
+    auto object = std::make_shared<Transformed3d>();
+    object->setSolid(std::move(solid));
+    return object;
+}
+
+std::shared_ptr<WorkPlane> makeWorkPlane(float size, float xRotation, float yRotation, float offset,
+                                         int32_t color) {
+    auto workPlane = std::make_shared<WorkPlane>();
+    workPlane->initialize(size, xRotation, yRotation, offset, color);
+    return workPlane;
+}
+
+std::shared_ptr<Profile> makeDiamondProfile() {
+    auto profile = std::make_shared<Profile>();
+    for (const auto& [x, y] : {std::pair{0.0f, 0.0f}, {1.0f, 1.0f}, {0.0f, 2.0f}, {-1.0f, 1.0f}}) {
+        PointRecord record;
+        record.coord = Point4{x, y, 0.0f, 1.0f};
+        profile->addPointRecord(record);
+    }
+    profile->addCPoint(profile->getCPoint(1));
+    return profile;
+}
+
 Matrix4 canvasLayout(float scale, float dx, float dy) {
     Matrix4 M;
     M3Ops::setScale(M, scale, scale, 1.0f);

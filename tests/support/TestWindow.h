@@ -14,6 +14,15 @@
 #include <string>
 #include <vector>
 
+// The top nodes of the scene tree as "key: text".
+inline std::vector<std::string> topNodes(const SceneTreeModel& tree) {
+    std::vector<std::string> nodes;
+    for (const auto& node : tree.root().children()) {
+        nodes.push_back(node->key + ": " + node->text);
+    }
+    return nodes;
+}
+
 // A main window with four recording canvases and a scripted frame, file dialog and prompts,
 // loaded and laid out in a 1000 x 600 client area.
 struct TestWindow {

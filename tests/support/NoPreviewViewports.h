@@ -1,0 +1,14 @@
+#pragma once
+
+#include "modelling/ExtrusionPreviewTarget.h"
+
+// A preview target without viewports: the extrusion dialog's Preview draws nowhere.
+class NoPreviewViewports : public ExtrusionPreviewTarget {
+public:
+    void getPicOrthoBounds(int32_t& lower, int32_t& upper) const override {
+        lower = 0;
+        upper = -1;
+    }
+    Canvas* getPicOrtho(int32_t) const override { return nullptr; }
+    std::optional<viewInfo> getViewInfo(int32_t) const override { return std::nullopt; }
+};
