@@ -9,6 +9,7 @@
 #include "scene/Face3d.h"
 #include "scene/Transformed3d.h"
 #include "support/DocumentInvariants.h"
+#include "support/TestScale.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
@@ -69,11 +70,11 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
 
 } // namespace
 
-// 10 x 1,000 actions here. A long run sets the seeds, the actions per seed, the first seed
-// and a folder that keeps every macro: KORVAN_MONKEY_SEEDS=100 KORVAN_MONKEY_ACTIONS=10000
-// (docs/MACROS.md).
+// 10 x 1,000 actions here (one seed under the sanitizers). A long run sets the seeds, the actions
+// per seed, the first seed and a folder that keeps every macro: KORVAN_MONKEY_SEEDS=100
+// KORVAN_MONKEY_ACTIONS=10000 (docs/MACROS.md).
 TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
-    const long seeds = fromEnvironment("KORVAN_MONKEY_SEEDS", 10);
+    const long seeds = fromEnvironment("KORVAN_MONKEY_SEEDS", TestScale::count(10));
     const long actions = fromEnvironment("KORVAN_MONKEY_ACTIONS", 1000);
     const long first = fromEnvironment("KORVAN_MONKEY_FIRST_SEED", 1);
     const char* keep = std::getenv("KORVAN_MONKEY_DIR");
@@ -95,7 +96,7 @@ TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
 TEST(Monkey, AKeptMacroReplaysInAnEmptySandbox) {
     const fs::path folder =
         fs::temp_directory_path() / ("korvan-monkey-kept-" + std::to_string(getpid()));
-    for (uint64_t seed = 1; seed <= 3; ++seed) {
+    for (uint64_t seed = 1; seed <= static_cast<uint64_t>(TestScale::count(3)); ++seed) {
         ASSERT_EQ(playMonkey(seed, 1000, folder, true), "");
         const fs::path sandbox = folder / ("sandbox-" + std::to_string(seed));
         fs::create_directories(sandbox);
