@@ -1,5 +1,5 @@
 #include "geometry/CPoint3D.h"
-#include "modelling/ExtrusionPreviewTarget.h"
+#include "modelling/EmptyPreviewTarget.h"
 #include "modelling/frmExtrude.h"
 #include "platform/ColorChooser.h"
 #include "platform/ModalHost.h"
@@ -19,16 +19,6 @@ public:
 class NoColors : public ColorChooser {
 public:
     int32_t chooseColor() override { return -1; }
-};
-
-class NoViewports : public ExtrusionPreviewTarget {
-public:
-    void getPicOrthoBounds(int32_t& lower, int32_t& upper) const override {
-        lower = 0;
-        upper = -1;
-    }
-    Canvas* getPicOrtho(int32_t) const override { return nullptr; }
-    std::optional<viewInfo> getViewInfo(int32_t) const override { return std::nullopt; }
 };
 
 // A closed 64-corner star in the plane z = 0.
@@ -51,7 +41,7 @@ std::shared_ptr<Profile> star() {
 void BM_ExtrudeStar400(benchmark::State& state) {
     NoDialogs dialogs;
     NoColors colors;
-    NoViewports viewports;
+    EmptyPreviewTarget viewports;
     const auto profile = star();
     int32_t faces = 0;
     for (auto _ : state) {

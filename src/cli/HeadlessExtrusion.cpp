@@ -1,7 +1,7 @@
 #include "cli/HeadlessExtrusion.h"
 
 #include "cli/CliError.h"
-#include "cli/EmptyPreviewTarget.h"
+#include "modelling/EmptyPreviewTarget.h"
 #include "cli/FixedColorChooser.h"
 #include "cli/RecordingPrompts.h"
 #include "cli/SilentModalHost.h"

@@ -2,7 +2,8 @@
 
 #include "modelling/ExtrusionPreviewTarget.h"
 
-// A main window without viewports: the extrusion's preview draws nothing.
+// A main window without viewports: the extrusion's preview draws nothing (the command line,
+// benchmarks and tests extrude without a screen).
 class EmptyPreviewTarget : public ExtrusionPreviewTarget {
 public:
     void getPicOrthoBounds(int32_t& lower, int32_t& upper) const override {
