@@ -138,4 +138,5 @@ TEST(Selectors, AProfileEnclosingTheClickIsSelectedAndPaintedMagenta) {
 
     EXPECT_TRUE(profile->isSelected());
     EXPECT_EQ(w.node("r1").BackColor, 16711935);
+    EXPECT_EQ(w.form.getSelection().selectedProfiles, std::vector{profile});
 }

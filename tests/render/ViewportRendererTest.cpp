@@ -1,12 +1,9 @@
 #include "render/ViewportRenderer.h"
 
 #include "app/SceneDocument.h"
-#include "render/GDIRegion.h"
 #include "render/KorvanOpsConsts.h"
 #include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/RecordingCanvas.h"
-#include "support/ScriptedPrompts.h"
 #include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
@@ -98,28 +95,4 @@ TEST(ViewportRenderer, ObjectsPaintFarthestFirstAndSelectionForcesColour) {
     for (size_t i = 0; i < 6; ++i) {
         EXPECT_EQ(polygons[i].fillColor % 256 >= 150, i >= 3) << i;
     }
-}
-
-TEST(ViewportRenderer, AWorkplaneClippedInOneViewportIsDrawnAndPickedInTheNext) {
-    ScriptedPrompts prompts;
-    Scene scene(false, false);
-    auto plane = std::make_shared<WorkPlane>();
-    plane->initialize(24, 0, 0, 0, 255); // reaches past the side view's eye at x = 10
-    scene.document.workPlanes = {plane};
-    // The front view draws the plane where it sees it, whatever viewport came before.
-    const auto corners = [&scene](int viewConst) {
-        std::vector<std::pair<int32_t, int32_t>> points;
-        for (const auto& polygon : scene.draw(standardView(viewConst)).polygons()) {
-            for (const CanvasPoint& p : polygon.points) {
-                points.emplace_back(p.x, p.y);
-            }
-        }
-        return points;
-    };
-    const auto first = corners(KorvanOpsConsts::viewFront);
-    EXPECT_EQ(first.size(), 4u);
-    corners(KorvanOpsConsts::viewSide);
-    EXPECT_EQ(corners(KorvanOpsConsts::viewFront), first);
-    EXPECT_NE(plane->createRegion(), nullptr);
-    EXPECT_TRUE(prompts.messages().empty());
 }

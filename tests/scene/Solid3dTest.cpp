@@ -31,12 +31,6 @@ TEST(Solid3d, SharedPointsAreTransformedOncePerReset) {
     cube->faces[0]->IsCulled = true; // a culled face moves nothing of its own
     cube->faces[0]->ApplyCoord(shift);
     EXPECT_EQ(cube->getPointRecord(7).coord.x, 2.0f);
-
-    // Culled(true) marks everything transformed until the next reset.
-    cube->Culled(true);
-    cube->Culled(false);
-    cube->ApplyCoord(shift);
-    EXPECT_EQ(cube->getPointRecord(7).coord.x, 3.0f);
 }
 
 TEST(Solid3d, SortFacesPaintsTheRearOfOverlappingFacesFirst) {

@@ -6,14 +6,6 @@
 
 namespace {
 
-// A closed unit square in the x-y plane: 5 stored points, the last repeating the first.
-void addSquareCurve(Transformed3d& object) {
-    const float corners[5][2] = {{0, 0}, {0, 1}, {1, 1}, {1, 0}, {0, 0}};
-    for (const auto& c : corners) {
-        object.AddCurvePoint(c[0], c[1], 0);
-    }
-}
-
 Matrix4 translation(float tx, float ty, float tz) {
     Matrix4 M;
     M3Ops::setTranslation(M, tx, ty, tz);
@@ -59,15 +51,4 @@ TEST(Transformed3d, SweptAlongTheCurvesNormalEveryFaceTurnsOutwards) {
             EXPECT_GT(outwards, 0) << "face " << f + 1 << ", normal z " << c.normalZ;
         }
     }
-}
-
-TEST(Transformed3d, ApplyFullMovesTheCurveEvenWhenTheSolidIsCulled) {
-    Transformed3d object;
-    addSquareCurve(object);
-    object.SetTransformation(translation(0, 0, 1));
-    object.Transform(true);
-    object.Culled(true);
-    object.ApplyFull(translation(5, 0, 0));
-    EXPECT_EQ(object.getCurvePoint(3).trans.x, 6.0f);
-    EXPECT_EQ(object.getSolid()->getPointRecord(3).trans.x, 0.0f);
 }
