@@ -107,9 +107,8 @@ TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
               QSize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight));
 
     const std::pair<Qt::Key, std::optional<int>> keys[] = {
-        {Qt::Key_Shift, {}},  {Qt::Key_Alt, {}},     {Qt::Key_Control, {}},
-        {Qt::Key_A, 65},      {Qt::Key_Enter, 13},   {Qt::Key_Return, 13},
-        {Qt::Key_Delete, 46}};
+        {Qt::Key_Shift, {}}, {Qt::Key_Alt, {}},    {Qt::Key_Control, {}}, {Qt::Key_A, 65},
+        {Qt::Key_Enter, 13}, {Qt::Key_Return, 13}, {Qt::Key_Delete, 46}};
     for (const auto& [code, heard] : keys) {
         EXPECT_EQ(desktopKeyCode(QKeyEvent(QEvent::KeyPress, code, Qt::NoModifier)), heard) << code;
     }
