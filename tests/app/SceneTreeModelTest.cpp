@@ -30,7 +30,7 @@ struct RecordingListener : SceneTreeListener {
 
 } // namespace
 
-TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededKeysRunOnAndARebuildListsEveryKind) {
+TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededAndARebuildListsEveryKind) {
     SceneTreeModel tree;
     RecordingListener listener;
     tree.setListener(&listener);
@@ -47,12 +47,9 @@ TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededKeysRunOnAndARebuildListsEveryKi
     EXPECT_EQ(faces.laterChildCount(), 6);
     EXPECT_TRUE(faces.children().empty());
 
-    // Searching for a face key makes that solid's faces only.
-    const auto face = tree.findSceneNode("f3-s2");
-    ASSERT_NE(face, nullptr);
-    EXPECT_EQ(face->text, "Face 3");
-    ASSERT_EQ(face->children().size(), 1u);
-    EXPECT_EQ(face->children()[0]->text, " 2 3 7 6");
+    // Searching for a face key makes that solid's faces only (their texts: the tree view's
+    // tests).
+    EXPECT_NE(tree.findSceneNode("f3-s2"), nullptr);
     EXPECT_EQ(faces.laterChildCount(), 6);
     EXPECT_EQ(listener.events, (std::vector<std::string>{"make Faces 6", "made"}));
 
@@ -61,14 +58,7 @@ TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededKeysRunOnAndARebuildListsEveryKi
     EXPECT_EQ(points.children()[6]->text, "7: X:1, Y:1,Z:1");
     EXPECT_EQ(tree.findSceneNode("f7-s1"), nullptr);
 
-    // Keys run on after a removal while texts keep their numbers; a rebuild lists every kind
-    // afresh.
-    tree.addSolidNode(makeObject(), 3, "Solid");
-    tree.removeNode("s2");
-    tree.addSolidNode(makeObject(), 3, "Solid"); // numbered after the solids in the tree
-    EXPECT_EQ(topNodes(tree),
-              (std::vector<std::string>{"s1: Solid 1", "s2: Solid 3", "s3: Solid 3"}));
-
+    // A rebuild lists every kind afresh (keys after a removal: the main window's tests).
     SceneDocument document;
     document.solids = {makeObject()};
     document.workPlanes = {makeWorkPlane(2.5f, 0.5f, 0)};

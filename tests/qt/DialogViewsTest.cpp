@@ -1,17 +1,25 @@
+#include "qt/frmExtrudeView.h"
+#include "qt/frmFacePropertyView.h"
 #include "qt/frmOrientationView.h"
 #include "qt/frmProfilePropertyView.h"
+#include "qt/frmSplashView.h"
 #include "qt/frmWorkPlaneParametricView.h"
 
 #include "geometry/CPoint3D.h"
+#include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
+#include "support/NoPreviewViewports.h"
 #include "support/QtInput.h"
 #include "support/ScriptedChoosers.h"
+#include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
+#include "support/TestSolids.h"
 
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <gtest/gtest.h>
 
 TEST(frmWorkPlaneParametricView, EnterAcceptsWhatWasTypedARefusedFieldIsEmptiedAndFocused) {
@@ -83,4 +91,69 @@ TEST(frmProfilePropertyView, TheMovedPointStaysSelectedInTheListAndEscapeCancels
     key(list, Qt::Key_Escape); // cancels
     EXPECT_TRUE(form.isClosed());
     EXPECT_FALSE(view.isVisible());
+}
+
+TEST(frmExtrudeView, TypedValuesReachTheDialogAndBadOnesEmptyTheirBox) {
+    ScriptedPrompts prompts;
+    ScriptedModalHost dialogs;
+    ScriptedColorChooser colors;
+    NoPreviewViewports viewports;
+    frmExtrude form(dialogs, colors, viewports);
+    form.initialize(makeDiamondProfile());
+    frmExtrudeView view(form);
+    showNow(view);
+    QLineEdit& length = child<QLineEdit>(view, "txtExtrusionLength");
+    length.selectAll();
+    typeInto(length, "a");
+    key(length, Qt::Key_Return); // the default button: Extrude
+    EXPECT_EQ(prompts.messages().size(), 1u);
+    EXPECT_EQ(length.text(), "");
+    EXPECT_TRUE(view.isVisible());
+
+    typeInto(length, "2");
+    QLineEdit& increments = child<QLineEdit>(view, "txtIncrements");
+    increments.selectAll();
+    typeInto(increments, "4");
+    EXPECT_EQ(form.txtIncrements.Text, "4");
+    key(increments, Qt::Key_Return);
+    EXPECT_FALSE(view.isVisible());
+    ASSERT_TRUE(form.getExtrusion());
+    EXPECT_EQ(form.getExtrusion()->getTransformationCount(), 4);
+}
+
+TEST(frmFacePropertyView, ChangesReachTheFaceThroughTheDefaultButton) {
+    ScriptedPrompts prompts;
+    ScriptedModalHost dialogs;
+    ScriptedColorChooser colors;
+    const auto cube = makeCube();
+    const auto face = cube->faces[0];
+    face->SpecularK = 0.25f;
+    frmFaceProperty form(dialogs, colors);
+    form.initialize(face);
+    frmFacePropertyView view(form);
+    showNow(view);
+    QScrollBar& bar = child<QScrollBar>(view, "HScrollSpecK");
+    EXPECT_EQ(bar.value(), 25);
+    bar.setValue(60);
+    EXPECT_EQ(form.lblReflection.Caption, "Reflection: 60%");
+    QListWidget& list = child<QListWidget>(view, "listPointIndex");
+    list.setCurrentRow(0);
+    child<QPushButton>(view, "cmdRemoveIndex").click();
+    EXPECT_EQ(list.count(), 3);
+    key(list, Qt::Key_Return);
+    EXPECT_FALSE(view.isVisible());
+    EXPECT_FLOAT_EQ(face->SpecularK, 0.6f);
+    EXPECT_EQ(face->getIndices(), (std::vector<int32_t>{6, 7, 8}));
+}
+
+TEST(frmSplashView, KeyPressFinishesTheSplash) {
+    frmSplash form;
+    frmSplashView splash(form);
+    bool finished = false;
+    QObject::connect(&splash, &frmSplashView::finished, [&finished] { finished = true; });
+    showNow(splash); // the window takes its size before the key arrives
+    key(splash, Qt::Key_Space, " ");
+    EXPECT_TRUE(finished);
+    EXPECT_TRUE(form.isClosed());
+    EXPECT_FALSE(splash.isVisible());
 }
