@@ -6,9 +6,9 @@
 #include "qt/frmWorkPlaneParametricView.h"
 
 #include "geometry/CPoint3D.h"
+#include "modelling/EmptyPreviewTarget.h"
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
-#include "support/NoPreviewViewports.h"
 #include "support/QtInput.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
@@ -97,7 +97,7 @@ TEST(frmExtrudeView, TypedValuesReachTheDialogAndBadOnesEmptyTheirBox) {
     ScriptedPrompts prompts;
     ScriptedModalHost dialogs;
     ScriptedColorChooser colors;
-    NoPreviewViewports viewports;
+    EmptyPreviewTarget viewports;
     frmExtrude form(dialogs, colors, viewports);
     form.initialize(makeDiamondProfile());
     frmExtrudeView view(form);
