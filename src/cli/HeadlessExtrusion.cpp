@@ -1,10 +1,10 @@
 #include "cli/HeadlessExtrusion.h"
 
 #include "cli/CliError.h"
-#include "modelling/EmptyPreviewTarget.h"
 #include "cli/FixedColorChooser.h"
 #include "cli/RecordingPrompts.h"
 #include "cli/SilentModalHost.h"
+#include "modelling/EmptyPreviewTarget.h"
 #include "modelling/frmExtrude.h"
 
 namespace {
