@@ -9,7 +9,9 @@ constexpr int32_t Green = 0xFF * 256;                        // #00ff00
 
 } // namespace
 
-TEST(SvgCanvas, WritesOneElementPerCallInPaintOrder) {
+// Hatches refer to one pattern per style and colour; a clear covers the whole picture, so
+// nothing before it, patterns included, is kept.
+TEST(SvgCanvas, WritesOneElementPerCallInPaintOrderUntilAClear) {
     SvgCanvas canvas(320, 200);
     canvas.setBackColor(0x123456);
     canvas.clear();
@@ -30,24 +32,6 @@ TEST(SvgCanvas, WritesOneElementPerCallInPaintOrder) {
     canvas.textOut(40, 50, "a<b & \"c\"");
     canvas.refresh();
     canvas.stretchBlitOr(Bitmap{1, 1, {0xFFFFFF}}, 0, 0, 10, 10, 0, 0, 1, 1); // not drawn
-    EXPECT_EQ(
-        canvas.svg(),
-        R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="320" height="200" viewBox="0 0 320 200">
-<rect width="320" height="200" fill="#563412"/>
-<polygon points="10,20 30,-4 50,60" fill="#ff8010" fill-rule="evenodd" stroke="none"/>
-<polygon points="1,2 3,4 5,6" fill="none" fill-rule="evenodd" stroke="#00ff00"/>
-<line x1="5" y1="6" x2="7" y2="8" stroke="#00ff00"/>
-<line x1="7" y1="8" x2="9" y2="10" stroke="#00ff00"/>
-<line x1="9" y1="10" x2="11" y2="12" stroke="none"/>
-<text x="40" y="50" fill="#ffffff" dominant-baseline="hanging" font-family="sans-serif" font-size="11" xml:space="preserve">a&lt;b &amp; &quot;c&quot;</text>
-</svg>
-)svg");
-}
-
-TEST(SvgCanvas, HatchesReferToOnePatternPerStyleAndColourUntilAClear) {
-    SvgCanvas canvas(100, 100);
-    canvas.setDrawStyle(DrawSolid);
-    canvas.setForeColor(Orange);
     canvas.setFillColor(Green);
     for (int style : {FillDiagonalCross, FillDiagonalCross, FillHorizontalLine}) {
         canvas.setFillStyle(style);
@@ -58,21 +42,27 @@ TEST(SvgCanvas, HatchesReferToOnePatternPerStyleAndColourUntilAClear) {
     canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
     canvas.polygon({});
     const std::string header =
-        R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="100" height="100" viewBox="0 0 100 100">
+        R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="320" height="200" viewBox="0 0 320 200">
 )svg";
     EXPECT_EQ(canvas.svg(), header + R"svg(<defs>
 <pattern id="h7-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#00ff00"/></pattern>
 <pattern id="h2-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,4H8" stroke="#00ff00"/></pattern>
 <pattern id="h7-ff8010" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#ff8010"/></pattern>
 </defs>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h2-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-ff8010)" fill-rule="evenodd" stroke="#ff8010"/>
+<rect width="320" height="200" fill="#563412"/>
+<polygon points="10,20 30,-4 50,60" fill="#ff8010" fill-rule="evenodd" stroke="none"/>
+<polygon points="1,2 3,4 5,6" fill="none" fill-rule="evenodd" stroke="#00ff00"/>
+<line x1="5" y1="6" x2="7" y2="8" stroke="#00ff00"/>
+<line x1="7" y1="8" x2="9" y2="10" stroke="#00ff00"/>
+<line x1="9" y1="10" x2="11" y2="12" stroke="none"/>
+<text x="40" y="50" fill="#ffffff" dominant-baseline="hanging" font-family="sans-serif" font-size="11" xml:space="preserve">a&lt;b &amp; &quot;c&quot;</text>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h2-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-ff8010)" fill-rule="evenodd" stroke="none"/>
 </svg>
 )svg");
-    // A clear covers the whole picture: nothing before it, patterns included, is kept.
     canvas.clear();
     EXPECT_EQ(canvas.svg(),
-              header + "<rect width=\"100\" height=\"100\" fill=\"#000000\"/>\n</svg>\n");
+              header + "<rect width=\"320\" height=\"200\" fill=\"#563412\"/>\n</svg>\n");
 }

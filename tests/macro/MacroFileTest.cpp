@@ -2,12 +2,12 @@
 #include "io/FileError.h"
 #include "macro/MacroWriter.h"
 #include "support/FaultyFileSystem.h"
+#include "support/TempFolder.h"
 
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -34,13 +34,6 @@ MacroFile endless(const std::string& line, size_t& handedOut) {
     });
 }
 
-// A folder of the test's own, removed at the end.
-struct Folder {
-    Folder() { fs::create_directories(path); }
-    ~Folder() { fs::remove_all(path); }
-    const fs::path path = fs::temp_directory_path() / ("korvan-macro-" + std::to_string(getpid()));
-};
-
 } // namespace
 
 TEST(MacroFile, ReadsALineWhenThePlayerAsksForIt) {
@@ -62,8 +55,6 @@ TEST(MacroFile, ReadsALineWhenThePlayerAsksForIt) {
 }
 
 TEST(MacroFile, NamesTheLineItCannotRead) {
-    MacroFile bad("key 13\n\nkey x\n");
-    EXPECT_EQ(unreadable(bad), "line 3: bad key code x");
     size_t handedOut = 0;
     MacroFile endlessLine = endless("x", handedOut);
     EXPECT_EQ(unreadable(endlessLine), "line 1: longer than 1048576 bytes");
@@ -77,7 +68,7 @@ TEST(MacroFile, NamesTheLineItCannotRead) {
 // Neither a replay nor a recording uses anything but a regular file, which a replay reads no
 // further than the size it had when opened.
 TEST(MacroFile, OpensAndMakesRegularFilesOnly) {
-    Folder folder;
+    TempFolder folder;
     const fs::path pipe = folder.path / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     fs::create_symlink("/dev/zero", folder.path / "zero");
