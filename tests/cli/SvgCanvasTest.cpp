@@ -2,13 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-constexpr int32_t Orange = 0xFF + 0x80 * 256 + 0x10 * 65536; // #ff8010
-constexpr int32_t Green = 0xFF * 256;                        // #00ff00
-
-} // namespace
-
 // Hatches refer to one pattern per style and colour; a clear covers the whole picture, so
 // nothing before it, patterns included, is kept.
 TEST(SvgCanvas, WritesOneElementPerCallInPaintOrderUntilAClear) {
@@ -16,12 +9,12 @@ TEST(SvgCanvas, WritesOneElementPerCallInPaintOrderUntilAClear) {
     canvas.setBackColor(0x123456);
     canvas.clear();
     canvas.setFillStyle(FillSolid);
-    canvas.setFillColor(Orange);
+    canvas.setFillColor(0x1080FF); // #ff8010, the colours are 0xBBGGRR
     canvas.setDrawStyle(DrawInvisible);
     canvas.polygon({{10, 20}, {30, -4}, {50, 60}});
     canvas.setFillStyle(FillTransparent);
     canvas.setDrawStyle(DrawSolid);
-    canvas.setForeColor(Green);
+    canvas.setForeColor(0x00FF00);
     canvas.polygon({{1, 2}, {3, 4}, {5, 6}});
     canvas.moveTo(5, 6);
     canvas.lineTo(7, 8);
@@ -32,12 +25,12 @@ TEST(SvgCanvas, WritesOneElementPerCallInPaintOrderUntilAClear) {
     canvas.textOut(40, 50, "a<b & \"c\"");
     canvas.refresh();
     canvas.stretchBlitOr(Bitmap{1, 1, {0xFFFFFF}}, 0, 0, 10, 10, 0, 0, 1, 1); // not drawn
-    canvas.setFillColor(Green);
+    canvas.setFillColor(0x00FF00);
     for (int style : {FillDiagonalCross, FillDiagonalCross, FillHorizontalLine}) {
         canvas.setFillStyle(style);
         canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
     }
-    canvas.setFillColor(Orange);
+    canvas.setFillColor(0x1080FF);
     canvas.setFillStyle(FillDiagonalCross);
     canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
     canvas.polygon({});

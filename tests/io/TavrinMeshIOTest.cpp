@@ -121,9 +121,6 @@ TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFileOrNothingAtA
     Bytes expected = triangle; // and the old file's tail behind it
     expected.insert(expected.end(), old.begin() + std::ssize(triangle), old.end());
     EXPECT_EQ(bytes, expected);
-    // The byte order itself, value by value: 1, 3, 1.0f.
-    EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + 12),
-              (Bytes{1, 0, 0, 0, 3, 0, 0, 0, 0, 0, 0x80, 0x3F}));
     // Only the new document is read back.
     EXPECT_EQ(saved(opened(file), folder.file("again.tvm")), triangle);
 
