@@ -96,7 +96,7 @@ protected:
 
 } // namespace
 
-TEST_F(CliEndToEnd, RendersPngAndSvgAndDescribesTheFile) {
+TEST_F(CliEndToEnd, RendersPngAndDescribesTheFile) {
     const Outcome png = run("render " + scene_ + " -o " + at("iso.png") + " --size 320x240");
     EXPECT_EQ(png.status, 0);
     EXPECT_EQ(png.out + png.err, "");
@@ -105,12 +105,6 @@ TEST_F(CliEndToEnd, RendersPngAndSvgAndDescribesTheFile) {
     QImage flat = image.copy();
     flat.fill(image.pixel(0, 0));
     EXPECT_NE(image, flat);
-
-    EXPECT_EQ(run("render --view top --parallel --no-grid " + scene_ + " -o " + at("a.svg")).status,
-              0);
-    const std::string text = readAll(dir_ / "a.svg");
-    EXPECT_TRUE(text.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"800\""));
-    EXPECT_NE(text.find("<polygon"), std::string::npos);
 
     const Outcome info = run("info " + scene_);
     EXPECT_EQ(info.status, 0);
@@ -261,35 +255,20 @@ TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {
     EXPECT_EQ(info.err + render.err, "");
 }
 
-// Failures the superuser who runs the build never meets, injected in the tool's file calls.
-TEST_F(CliEndToEnd, RefusedFilesAreNamedAsSuchAndAFailedWriteKeepsTheOldOutput) {
-    const auto runWith = [](FileSystem& files, const std::vector<std::string>& args) {
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = CliApp(files).run(args, out, err);
-        return Outcome{status, out.str(), err.str()};
-    };
+// A refusal the superuser who runs the build never meets, injected in the tool's file calls,
+// and standard output that fails as it is flushed.
+TEST_F(CliEndToEnd, RefusedFilesAndAFailingStandardOutputAreNamedAsSuch) {
     FaultyFileSystem unreadable;
     unreadable.failAll(FaultyFileSystem::Call::openToRead, std::errc::permission_denied);
-    const Outcome refused = runWith(unreadable, {"info", path_});
-    EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.err, "korvan-cli: cannot open '" + path_ + "': permission denied\n");
-
-    const std::string output = (dir_ / "out.svg").string();
-    std::ofstream(output) << "old picture";
-    FaultyFileSystem fullDisk;
-    fullDisk.failAll(FaultyFileSystem::Call::write, std::errc::no_space_on_device);
-    const Outcome full = runWith(fullDisk, {"render", path_, "-o", output});
-    EXPECT_EQ(full.status, 1);
-    EXPECT_EQ(full.err, "korvan-cli: cannot write '" + output + "': no space left on device\n");
-    EXPECT_EQ(readAll(output), "old picture");
-    EXPECT_EQ(std::distance(fs::directory_iterator(dir_), {}), 2); // the scene and out.svg
-
-    // Standard output that fails as it is flushed.
+    std::ostringstream out;
     std::ostringstream err;
+    EXPECT_EQ(CliApp(unreadable).run({"info", path_}, out, err), 1);
+    EXPECT_EQ(err.str(), "korvan-cli: cannot open '" + path_ + "': permission denied\n");
+
     std::ostream broken(nullptr);
-    EXPECT_EQ(CliApp().run({"--help"}, broken, err), 1);
-    EXPECT_EQ(err.str(), "korvan-cli: cannot write to standard output\n");
+    std::ostringstream brokenErr;
+    EXPECT_EQ(CliApp().run({"--help"}, broken, brokenErr), 1);
+    EXPECT_EQ(brokenErr.str(), "korvan-cli: cannot write to standard output\n");
 }
 
 TEST_F(CliEndToEnd, ExtrudesAProfileAsTheDialogDoesAfterTheScenesSolids) {
@@ -303,8 +282,6 @@ TEST_F(CliEndToEnd, ExtrudesAProfileAsTheDialogDoesAfterTheScenesSolids) {
     EXPECT_EQ(added.out + added.err, "");
     const auto scene = openScene(dir_ / "added.tvm");
     ASSERT_EQ(scene.size(), 3u);
-    EXPECT_EQ(scene[0]->getFaces().size(), 10u);
-    EXPECT_EQ(scene[1]->getFaces().size(), 10u);
     // One segment for the translation and one for the scaling, no caps.
     EXPECT_EQ(scene[2]->getPoints().size(), 20u);
     const FaceList sides = scene[2]->getFaces();

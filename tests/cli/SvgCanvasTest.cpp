@@ -2,24 +2,19 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-constexpr int32_t Orange = 0xFF + 0x80 * 256 + 0x10 * 65536; // #ff8010
-constexpr int32_t Green = 0xFF * 256;                        // #00ff00
-
-} // namespace
-
-TEST(SvgCanvas, WritesOneElementPerCallInPaintOrder) {
+// Hatches refer to one pattern per style and colour; a clear covers the whole picture, so
+// nothing before it, patterns included, is kept.
+TEST(SvgCanvas, WritesOneElementPerCallInPaintOrderUntilAClear) {
     SvgCanvas canvas(320, 200);
     canvas.setBackColor(0x123456);
     canvas.clear();
     canvas.setFillStyle(FillSolid);
-    canvas.setFillColor(Orange);
+    canvas.setFillColor(0x1080FF); // #ff8010, the colours are 0xBBGGRR
     canvas.setDrawStyle(DrawInvisible);
     canvas.polygon({{10, 20}, {30, -4}, {50, 60}});
     canvas.setFillStyle(FillTransparent);
     canvas.setDrawStyle(DrawSolid);
-    canvas.setForeColor(Green);
+    canvas.setForeColor(0x00FF00);
     canvas.polygon({{1, 2}, {3, 4}, {5, 6}});
     canvas.moveTo(5, 6);
     canvas.lineTo(7, 8);
@@ -30,9 +25,23 @@ TEST(SvgCanvas, WritesOneElementPerCallInPaintOrder) {
     canvas.textOut(40, 50, "a<b & \"c\"");
     canvas.refresh();
     canvas.stretchBlitOr(Bitmap{1, 1, {0xFFFFFF}}, 0, 0, 10, 10, 0, 0, 1, 1); // not drawn
-    EXPECT_EQ(
-        canvas.svg(),
+    canvas.setFillColor(0x00FF00);
+    for (int style : {FillDiagonalCross, FillDiagonalCross, FillHorizontalLine}) {
+        canvas.setFillStyle(style);
+        canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
+    }
+    canvas.setFillColor(0x1080FF);
+    canvas.setFillStyle(FillDiagonalCross);
+    canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
+    canvas.polygon({});
+    const std::string header =
         R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="320" height="200" viewBox="0 0 320 200">
+)svg";
+    EXPECT_EQ(canvas.svg(), header + R"svg(<defs>
+<pattern id="h7-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#00ff00"/></pattern>
+<pattern id="h2-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,4H8" stroke="#00ff00"/></pattern>
+<pattern id="h7-ff8010" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#ff8010"/></pattern>
+</defs>
 <rect width="320" height="200" fill="#563412"/>
 <polygon points="10,20 30,-4 50,60" fill="#ff8010" fill-rule="evenodd" stroke="none"/>
 <polygon points="1,2 3,4 5,6" fill="none" fill-rule="evenodd" stroke="#00ff00"/>
@@ -40,39 +49,13 @@ TEST(SvgCanvas, WritesOneElementPerCallInPaintOrder) {
 <line x1="7" y1="8" x2="9" y2="10" stroke="#00ff00"/>
 <line x1="9" y1="10" x2="11" y2="12" stroke="none"/>
 <text x="40" y="50" fill="#ffffff" dominant-baseline="hanging" font-family="sans-serif" font-size="11" xml:space="preserve">a&lt;b &amp; &quot;c&quot;</text>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h2-00ff00)" fill-rule="evenodd" stroke="none"/>
+<polygon points="0,0 10,0 10,10" fill="url(#h7-ff8010)" fill-rule="evenodd" stroke="none"/>
 </svg>
 )svg");
-}
-
-TEST(SvgCanvas, HatchesReferToOnePatternPerStyleAndColourUntilAClear) {
-    SvgCanvas canvas(100, 100);
-    canvas.setDrawStyle(DrawSolid);
-    canvas.setForeColor(Orange);
-    canvas.setFillColor(Green);
-    for (int style : {FillDiagonalCross, FillDiagonalCross, FillHorizontalLine}) {
-        canvas.setFillStyle(style);
-        canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
-    }
-    canvas.setFillColor(Orange);
-    canvas.setFillStyle(FillDiagonalCross);
-    canvas.polygon({{0, 0}, {10, 0}, {10, 10}});
-    canvas.polygon({});
-    const std::string header =
-        R"svg(<svg xmlns="http://www.w3.org/2000/svg" width="100" height="100" viewBox="0 0 100 100">
-)svg";
-    EXPECT_EQ(canvas.svg(), header + R"svg(<defs>
-<pattern id="h7-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#00ff00"/></pattern>
-<pattern id="h2-00ff00" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,4H8" stroke="#00ff00"/></pattern>
-<pattern id="h7-ff8010" width="8" height="8" patternUnits="userSpaceOnUse"><path d="M0,8L8,0M-1,1L1,-1M7,9L9,7M0,0L8,8M-1,7L1,9M7,-1L9,1" stroke="#ff8010"/></pattern>
-</defs>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h2-00ff00)" fill-rule="evenodd" stroke="#ff8010"/>
-<polygon points="0,0 10,0 10,10" fill="url(#h7-ff8010)" fill-rule="evenodd" stroke="#ff8010"/>
-</svg>
-)svg");
-    // A clear covers the whole picture: nothing before it, patterns included, is kept.
     canvas.clear();
     EXPECT_EQ(canvas.svg(),
-              header + "<rect width=\"100\" height=\"100\" fill=\"#000000\"/>\n</svg>\n");
+              header + "<rect width=\"320\" height=\"200\" fill=\"#563412\"/>\n</svg>\n");
 }

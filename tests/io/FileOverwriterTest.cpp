@@ -1,6 +1,7 @@
 #include "io/FileOverwriter.h"
 
 #include "support/FaultyFileSystem.h"
+#include "support/TempFolder.h"
 
 #include <filesystem>
 #include <fstream>
@@ -13,17 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-
-// A fresh folder per test, removed with everything in it afterwards.
-struct TempFolder {
-    fs::path path = fs::temp_directory_path() /
-                    ("korvan-overwrite-" + std::to_string(::getpid()) + "-" +
-                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    TempFolder() { fs::create_directories(path); }
-    ~TempFolder() { fs::remove_all(path); }
-    std::string file(const std::string& name) const { return (path / name).string(); }
-    std::vector<fs::path> entries() const { return {fs::directory_iterator(path), {}}; }
-};
 
 Bytes contentOf(const std::string& file) {
     std::ifstream in(file, std::ios::binary);

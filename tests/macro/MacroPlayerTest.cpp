@@ -2,12 +2,9 @@
 #include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
+#include "support/TempFolder.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -21,8 +18,9 @@ const std::string workplane = "menu \"&Create\" \"&WorkPlane\" \"&Parameter Crea
 const std::string noProfile = "Unable to extrude since no profiles were selected.  Please select "
                               "profile before extruding.";
 
-// Plays the macro in an editor without a screen: the message it stopped with, or "".
-std::string play(const std::string& text, const std::string& sandbox = "") {
+// Plays the macro in an editor without a screen, taking files from the sandbox: the message
+// it stopped with, or "".
+std::string play(const std::string& text, const std::string& sandbox) {
     MacroFile macro(text);
     std::array<BlankCanvas, 4> canvases;
     HeadlessEditor editor(macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
@@ -70,9 +68,12 @@ TEST(MacroPlayer, StopsAtALineThatDoesNotFitOrAnExpectationThatFails) {
              "expect count solids 0\nexpect selected faces 0\nexpect message \"" +
              noProfile + "\"\nmenu \"&Create\" \"&Extrusion\"\nmessage ok\n",
          ""},
+        {"menu \"&File\" \"&Save\"\nfile \"/tmp/..\"\n",
+         "line 2: the file /tmp/.. has no name to find in the sandbox"},
     };
+    TempFolder sandbox;
     for (const auto& [text, message] : cases) {
-        EXPECT_EQ(play(text), message) << text;
+        EXPECT_EQ(play(text, sandbox.path.string()), message) << text;
     }
 }
 
@@ -84,16 +85,4 @@ TEST(MacroPlayer, PlaysOnAWindowOfTheEditorsStartUpSize) {
     HeadlessEditor editor(macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
     EXPECT_EQ(canvases[3].scaleWidth(), frmTolvane::startUpClientWidth * 4 / 5);
     EXPECT_EQ(canvases[3].scaleHeight(), frmTolvane::startUpClientHeight);
-}
-
-TEST(MacroPlayer, TakesEveryFileFromTheSandbox) {
-    const fs::path sandbox =
-        fs::temp_directory_path() / ("korvan-sandbox-" + std::to_string(getpid()));
-    fs::create_directories(sandbox);
-    const std::string save = "menu \"&File\" \"&Save\"\n";
-    EXPECT_EQ(play(save + "file \"/nowhere/at all/saved.tvm\"\n", sandbox.string()), "");
-    EXPECT_TRUE(fs::exists(sandbox / "saved.tvm"));
-    EXPECT_EQ(play(save + "file \"/tmp/..\"\n", sandbox.string()),
-              "line 2: the file /tmp/.. has no name to find in the sandbox");
-    fs::remove_all(sandbox);
 }

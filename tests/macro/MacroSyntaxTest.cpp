@@ -38,7 +38,7 @@ TEST(MacroSyntax, EveryActionReadsBackAsWritten) {
         {macro::Input{""}, "input \"\""},
         {macro::File{}, "file cancel"},
         {macro::File{"/tmp/a b.tvm"}, "file \"/tmp/a b.tvm\""},
-        {macro::Color{255}, "color 255"},
+        {macro::Color{0}, "color 0"},
         {macro::Color{-1}, "color cancel"},
         {macro::Expect{Expect::Message, {"Say \"no\""}, "", 0},
          "expect message \"Say \\\"no\\\"\""},

@@ -1,12 +1,12 @@
 #include "support/RecordingCanvas.h"
 
+#include <algorithm>
+#include <iterator>
+
 std::vector<RecordingCanvas::Call> RecordingCanvas::polygons() const {
     std::vector<Call> result;
-    for (const Call& call : calls_) {
-        if (call.kind == Kind::Polygon) {
-            result.push_back(call);
-        }
-    }
+    std::ranges::copy_if(calls_, std::back_inserter(result),
+                         [](const Call& call) { return call.kind == Kind::Polygon; });
     return result;
 }
 

@@ -2,11 +2,10 @@
 
 #include "platform/ColorChooser.h"
 #include "platform/FileChooser.h"
+#include "support/AnswerQueue.h"
 
 #include <cstdint>
-#include <deque>
 #include <string>
-#include <utility>
 #include <vector>
 
 // A file chooser that answers from a queue the test fills (cancelling when it runs dry)
@@ -18,21 +17,16 @@ public:
         std::string filter;
     };
 
-    void queueAnswer(std::string path) { answers_.push_back(std::move(path)); }
+    void queueAnswer(std::string path) { answers_.push(std::move(path)); }
     const std::vector<Request>& requests() const { return requests_; }
 
     std::string chooseFile(const std::string& title, const std::string& filter) override {
         requests_.push_back({title, filter});
-        if (answers_.empty()) {
-            return "";
-        }
-        std::string answer = answers_.front();
-        answers_.pop_front();
-        return answer;
+        return answers_.take("");
     }
 
 private:
-    std::deque<std::string> answers_;
+    AnswerQueue<std::string> answers_;
     std::vector<Request> requests_;
 };
 
@@ -40,20 +34,15 @@ private:
 // counts its calls.
 class ScriptedColorChooser : public ColorChooser {
 public:
-    void queueAnswer(int32_t color) { answers_.push_back(color); }
+    void queueAnswer(int32_t color) { answers_.push(color); }
     int calls() const { return calls_; }
 
     int32_t chooseColor() override {
         ++calls_;
-        if (answers_.empty()) {
-            return -1;
-        }
-        const int32_t answer = answers_.front();
-        answers_.pop_front();
-        return answer;
+        return answers_.take(-1);
     }
 
 private:
-    std::deque<int32_t> answers_;
+    AnswerQueue<int32_t> answers_;
     int calls_ = 0;
 };

@@ -35,12 +35,7 @@ void ScriptedModalHost::showModal(ModalDialog& dialog) {
         return;
     }
     shown_.push_back(dialog.caption());
-    std::vector<Step> steps;
-    if (!scripts_.empty()) {
-        steps = std::move(scripts_.front());
-        scripts_.pop_front();
-    }
-    for (const Step& step : steps) {
+    for (const Step& step : scripts_.take({})) {
         if (dialog.isClosed()) {
             throw std::logic_error(dialog.caption() + " closed before the script ended");
         }

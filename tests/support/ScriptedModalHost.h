@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/ModalHost.h"
+#include "support/AnswerQueue.h"
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -24,13 +24,13 @@ public:
     static Step scroll(const std::string& scrollBar, int value);
     static Step press(const std::string& button);
 
-    void queueDialog(std::vector<Step> steps) { scripts_.push_back(std::move(steps)); }
+    void queueDialog(std::vector<Step> steps) { scripts_.push(std::move(steps)); }
     // The captions of the dialogs shown, in order.
     const std::vector<std::string>& shown() const { return shown_; }
 
     void showModal(ModalDialog& dialog) override;
 
 private:
-    std::deque<std::vector<Step>> scripts_;
+    AnswerQueue<std::vector<Step>> scripts_;
     std::vector<std::string> shown_;
 };

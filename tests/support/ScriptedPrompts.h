@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Prompts.h"
+#include "support/AnswerQueue.h"
 
-#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,8 +34,8 @@ public:
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) override;
 
-    void queueAnswer(MessageAnswer answer) { answers_.push_back(answer); }
-    void queueInput(std::optional<std::string> input) { inputs_.push_back(std::move(input)); }
+    void queueAnswer(MessageAnswer answer) { answers_.push(answer); }
+    void queueInput(std::optional<std::string> input) { inputs_.push(std::move(input)); }
 
     const std::vector<Message>& messages() const { return messages_; }
     const std::vector<std::string>& inputPrompts() const { return inputPrompts_; }
@@ -48,8 +48,8 @@ public:
     }
 
 private:
-    std::deque<MessageAnswer> answers_;
-    std::deque<std::optional<std::string>> inputs_;
+    AnswerQueue<MessageAnswer> answers_;
+    AnswerQueue<std::optional<std::string>> inputs_;
     std::vector<Message> messages_;
     std::vector<std::string> inputPrompts_;
     std::vector<InputBox> inputBoxes_;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/WindowFrame.h"
+#include "support/AnswerQueue.h"
 
-#include <deque>
 #include <functional>
 #include <vector>
 
@@ -14,22 +14,20 @@ public:
     void setMousePointer(MousePointer pointer) override { pointers_.push_back(pointer); }
     void showPopupMenu(Canvas&, int, int) override {
         ++popups_;
-        if (!choices_.empty()) {
-            auto choose = std::move(choices_.front());
-            choices_.pop_front();
+        if (const auto choose = choices_.take({})) {
             choose();
         }
     }
     void unload() override { unloaded_ = true; }
 
-    void queuePopupChoice(std::function<void()> choose) { choices_.push_back(std::move(choose)); }
+    void queuePopupChoice(std::function<void()> choose) { choices_.push(std::move(choose)); }
     const std::vector<MousePointer>& pointers() const { return pointers_; }
     int popups() const { return popups_; }
     bool unloaded() const { return unloaded_; }
 
 private:
     std::vector<MousePointer> pointers_;
-    std::deque<std::function<void()>> choices_;
+    AnswerQueue<std::function<void()>> choices_;
     int popups_ = 0;
     bool unloaded_ = false;
 };

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 // A fresh folder per test, named after the test, removed with everything in it afterwards.
 struct TempFolder {
@@ -17,4 +18,7 @@ struct TempFolder {
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
     std::string file(const std::string& name) const { return (path / name).string(); }
+    std::vector<std::filesystem::path> entries() const {
+        return {std::filesystem::directory_iterator(path), {}};
+    }
 };
