@@ -81,10 +81,9 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
 
 } // namespace
 
-// 10 x 1,000 actions here, the first three seeds replayed (one seed, replayed, under the
-// sanitizers). A long run sets the seeds, the actions
-// per seed, the first seed and a folder that keeps every macro: KORVAN_MONKEY_SEEDS=100
-// KORVAN_MONKEY_ACTIONS=10000 (docs/MACROS.md).
+// 10 x 1,000 actions here, the first three seeds replayed (one seed under the sanitizers). A
+// long run sets the seeds, the actions per seed, the first seed and a folder that keeps every
+// macro: KORVAN_MONKEY_SEEDS=100 KORVAN_MONKEY_ACTIONS=10000 (docs/MACROS.md).
 TEST(Monkey, PlaysThousandsOfActionsWithoutBreakingTheDocument) {
     const long seeds = fromEnvironment("KORVAN_MONKEY_SEEDS", TestScale::count(10));
     const long actions = fromEnvironment("KORVAN_MONKEY_ACTIONS", 1000);
