@@ -74,13 +74,6 @@ TEST(frmWorkPlaneParametric, AcceptCreatesTheWorkplaneCancelDoesNot) {
     EXPECT_FALSE(cancelled.hasCreated());
     EXPECT_EQ(cancelled.getWorkPlane(), nullptr);
 
-    // Without a chosen colour the plane still shows on the black viewports.
-    frmWorkPlaneParametric uncoloured(colors);
-    host.queueDialog({User::type("Text1", "10"), User::type("Text2", "0"), User::type("Text3", "0"),
-                      User::type("Text5", "0"), User::press("mnuAccept")});
-    host.showModal(uncoloured);
-    ASSERT_TRUE(uncoloured.hasCreated());
-    EXPECT_NE(uncoloured.getWorkPlane()->getColor(), 0);
 }
 
 TEST(frmWorkPlaneProperty, AcceptRebuildsAndSetsVisibilityCancelOrAFailedCheckChangeNothing) {
