@@ -73,7 +73,6 @@ TEST(frmWorkPlaneParametric, AcceptCreatesTheWorkplaneCancelDoesNot) {
     host.showModal(cancelled);
     EXPECT_FALSE(cancelled.hasCreated());
     EXPECT_EQ(cancelled.getWorkPlane(), nullptr);
-
 }
 
 TEST(frmWorkPlaneProperty, AcceptRebuildsAndSetsVisibilityCancelOrAFailedCheckChangeNothing) {
