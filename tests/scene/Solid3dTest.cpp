@@ -1,6 +1,5 @@
 #include "scene/Solid3d.h"
 
-#include "support/RecordingCanvas.h"
 #include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
@@ -45,30 +44,4 @@ TEST(Solid3d, SortFacesPaintsTheRearOfOverlappingFacesFirst) {
     solid.faces[0]->IsCulled = true;
     solid.faces[2]->IsCulled = true;
     EXPECT_EQ(solid.SortFaces(), (FaceList{solid.faces[2], solid.faces[0], solid.faces[1]}));
-}
-
-TEST(Solid3d, DrawPicksBaseColoursForSelectedAndForcedFaces) {
-    RecordingCanvas canvas(400, 300);
-    Solid3d solid;
-    addSquare(solid, 10, 10, 20, 0);
-    addSquare(solid, 50, 10, 20, 0);
-    solid.Apply(canvasLayout());
-    solid.faces[1]->setSelected(true);
-    const LightList noLights;
-
-    solid.draw(canvas, noLights, 0, 0, 0, 100, false, false, false, 150, 0, 0, 0, 0, 200);
-    auto polygons = canvas.polygons();
-    ASSERT_EQ(polygons.size(), 2u);
-    EXPECT_EQ(polygons[0].fillColor, 150);
-    EXPECT_EQ(polygons[1].fillColor, 200 * 65536);
-
-    // Without a forced colour the unselected face is shaded: black with no light.
-    canvas.forget();
-    solid.draw(canvas, noLights, 0, 0, 0, 100, false, false, true, -1, -1, -1, 0, 0, 200);
-    polygons = canvas.polygons();
-    EXPECT_EQ(polygons[0].fillColor, 0);
-    // Wireframe outlines in the shaded colour and leaves the inside unfilled.
-    EXPECT_EQ(polygons[1].fillStyle, FillTransparent);
-    EXPECT_EQ(polygons[1].drawStyle, DrawSolid);
-    EXPECT_EQ(polygons[1].foreColor, 200 * 65536);
 }
