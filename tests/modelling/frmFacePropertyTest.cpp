@@ -55,6 +55,13 @@ TEST_F(frmFacePropertyOnACube, CoefficientsRoundTripThroughTheSwatchesAndBars) {
     EXPECT_EQ(face->getIndices(), (Indices{8, 7, 6, 5}));
 }
 
+TEST_F(frmFacePropertyOnACube, CancelLeavesTheFaceAsItWas) {
+    form.moveScrollBar("HScrollSpecN", 20);
+    EXPECT_EQ(form.lblIntensity.Caption, "Intensity: 20");
+    form.press("mnuCancel");
+    EXPECT_EQ(face->SpecularN, 0.0f);
+}
+
 TEST_F(frmFacePropertyOnACube, AddInsertsBeforeTheSelectedEntryAndAsksAtTheLast) {
     form.press("cmdAddIndex"); // nothing selected: no picker
     EXPECT_TRUE(dialogs.shown().empty());

@@ -66,7 +66,6 @@ TEST_F(frmSolidPropertyOnACube, AcceptWritesTheTickedGroupsToEveryFace) {
     EXPECT_EQ(form.surface.lblReflection.Caption, "Reflection: 40%");
     form.moveScrollBar("HScrollSpecN", 90); // its group stays unticked
     EXPECT_EQ(form.surface.lblIntensity.Caption, "Intensity: 90");
-    form.setChecked("OrientSwitch", true);
     form.press("mnuAccept");
     EXPECT_TRUE(form.isClosed());
     for (size_t i : {size_t{0}, size_t{5}}) {
@@ -76,6 +75,20 @@ TEST_F(frmSolidPropertyOnACube, AcceptWritesTheTickedGroupsToEveryFace) {
         EXPECT_FLOAT_EQ(face(i).SpecularK, 0.4f);
         EXPECT_EQ(face(i).SpecularN, 7.0f);
     }
+    EXPECT_EQ(face(0).getIndices(), (Indices{5, 6, 7, 8}));
+}
+
+TEST_F(frmSolidPropertyOnACube, SwitchOrientationTurnsEveryFaceOnAcceptOnly) {
+    for (const char* button : {"mnuCancel", "mnuAccept"}) {
+        frmSolidProperty dialog(colors);
+        dialog.initialize(object);
+        dialog.setChecked("useSpecularN", true);
+        dialog.moveScrollBar("HScrollSpecN", 90);
+        dialog.setChecked("OrientSwitch", true);
+        dialog.press(button);
+    }
     EXPECT_EQ(face(0).getIndices(), (Indices{8, 7, 6, 5}));
     EXPECT_EQ(face(5).getIndices(), (Indices{5, 6, 2, 1}));
+    EXPECT_EQ(face(0).AmbientKr, 0.125f);
+    EXPECT_EQ(face(0).SpecularN, 90.0f);
 }

@@ -73,6 +73,7 @@ TEST(frmWorkPlaneParametric, AcceptCreatesTheWorkplaneCancelDoesNot) {
     host.showModal(cancelled);
     EXPECT_FALSE(cancelled.hasCreated());
     EXPECT_EQ(cancelled.getWorkPlane(), nullptr);
+    EXPECT_NE(cancelled.picWPColor.BackColor, 0); // a black plane would not show
 }
 
 TEST(frmWorkPlaneProperty, AcceptRebuildsAndSetsVisibilityCancelOrAFailedCheckChangeNothing) {
