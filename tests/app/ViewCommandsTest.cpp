@@ -17,7 +17,6 @@ TEST(ViewCommands, BarItemsSetEveryRecordAndRedrawPopupItemsTheRightClickedOne) 
     w.popup(1, {"&Projection Type", "P&arallel"});
     EXPECT_EQ(w.form.getViewSpecs(2).ProjectionType, 0);
     EXPECT_EQ(w.form.getViewSpecs(1).ProjectionType, 1);
-    EXPECT_EQ(w.form.getViewSpecs(4).ProjectionType, 1);
 
     w.popup(3, {"Se&t View", "&Top"});
     EXPECT_EQ(w.form.getViewSpecs(4).EyeTheta, w.form.getViewSpecs(1).EyeTheta);
@@ -39,7 +38,6 @@ TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedr
     EXPECT_FALSE(w.form.getViewSpecs(3).HideSurfaces);
     w.choose({"&View", "&Display", "&Backface Removal"});
     EXPECT_TRUE(w.form.getViewSpecs(2).HideSurfaces);
-    EXPECT_FALSE(menus.item("mnuPopupBackfaceRemoval").isChecked());
 
     for (const char* caption : {"&Grid", "&Zero Axes", "&Reference Axes"}) {
         SCOPED_TRACE(caption);
