@@ -92,6 +92,10 @@ TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByIts
 }
 
 TEST(ProfileCommands, ClosingEndsTheProfileWhereItBeganOnceItHasTwoPoints) {
+    Drawing one(1);
+    one.form.Form_KeyDown(67);
+    EXPECT_EQ(one.current()->getPointCount(), 1); // too short to close
+
     // Confirmed counter-clockwise: stored the other way round, with its tree node.
     Drawing three(3);
     const auto corners = three.current()->getPoints();

@@ -38,6 +38,7 @@ TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedr
     EXPECT_FALSE(w.form.getViewSpecs(3).HideSurfaces);
     w.choose({"&View", "&Display", "&Backface Removal"});
     EXPECT_TRUE(w.form.getViewSpecs(2).HideSurfaces);
+    EXPECT_FALSE(menus.item("mnuPopupBackfaceRemoval").isChecked());
 
     for (const char* caption : {"&Grid", "&Zero Axes", "&Reference Axes"}) {
         SCOPED_TRACE(caption);
