@@ -43,6 +43,7 @@ TEST(SceneTreeView, ShowsTheNodesMakesFacesOnExpandPaintsTheClickedOneAndDeletes
     ASSERT_EQ(model.rowCount(faces), 6);
     const QModelIndex face = model.index(2, 0, faces);
     EXPECT_EQ(model.data(face).toString(), QString("Face 3"));
+    EXPECT_EQ(model.parent(face), faces);
     EXPECT_EQ(model.data(model.index(0, 0, face)).toString(), QString(" 2 3 7 6"));
 
     QTreeView& tree = s.window.TreeView1();
