@@ -94,8 +94,7 @@ TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByIts
 TEST(ProfileCommands, ClosingEndsTheProfileWhereItBeganOnceItHasTwoPoints) {
     Drawing one(1);
     one.form.Form_KeyDown(67);
-    EXPECT_TRUE(one.dialogs.shown().empty());
-    EXPECT_EQ(one.current()->getPointCount(), 1);
+    EXPECT_EQ(one.current()->getPointCount(), 1); // too short to close
 
     // Confirmed counter-clockwise: stored the other way round, with its tree node.
     Drawing three(3);

@@ -32,8 +32,6 @@ TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails
     EXPECT_EQ(node->text, "Solid 2");
     EXPECT_EQ(std::any_cast<std::shared_ptr<Transformed3d>>(node->tag),
               w.form.getDocument().solids[1]);
-    EXPECT_NE(w.form.getSceneTree().findSceneNode("f1-s2"), nullptr); // faces keyed by position
-    EXPECT_EQ(w.prompts.messages().size(), 1u);
 
     // An error while extruding ends the command, keeping the earlier solids.
     w.form.setSelectedProfiles({makeDiamondProfile(), makeDiamondProfile(), makeDiamondProfile()});

@@ -19,7 +19,6 @@ TEST(frmMouseSensivityView, TheBarMovesTheWayItIsDrawn) {
     EXPECT_EQ(form.HScroll1.Value, 249);
     EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75.1%");
     key(bar, Qt::Key_Home);
-    EXPECT_EQ(form.HScroll1.Value, 1000);
     bar.triggerAction(QAbstractSlider::SliderSingleStepAdd); // an arrow: 1 %
     EXPECT_EQ(form.lblSens.Caption, "Sensivity: 1%");
     key(bar, Qt::Key_Return); // the dialog accepts
