@@ -212,7 +212,6 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
          cannot("cannot read", "odd.macro", " line 2: unknown action jump??")},
         {"replay " + at("big/huge.macro") + out,
          cannot("cannot read", "big/huge.macro", " line 1: longer than 1048576 bytes")},
-        {"replay " + at("zero.tvm") + out, file + "zero.tvm': not a regular file\n"},
         {"replay " + at("resize.macro") + out + " --svg-dir " + at("none"),
          cannot("cannot use", "none", " (--svg-dir): no such file or directory")},
         {"replay " + at("resize.macro") + out + " --sandbox " + at("diamond.txt"),
