@@ -8,18 +8,13 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-namespace {
-
-using Host = ScriptedModalHost;
-
-} // namespace
-
 // What a user does through every channel (menus, dialogs, a nested message box, the tree,
 // keys, the mouse, the pop-up menu, the file dialog) is written so that a replay ends in
 // the same document, selection and view.
 TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
     std::ostringstream text;
     MacroWriter writer(text);
+    using Host = ScriptedModalHost;
     TestWindow w;
     MacroRecorder recorder(writer, w.dialogs);
     frmTolvane form(recorder);
@@ -56,10 +51,7 @@ TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
     HeadlessEditor replay(
         macro, {&replayCanvases[0], &replayCanvases[1], &replayCanvases[2], &replayCanvases[3]});
     replay.player.playAll();
-    const SceneDocument& recorded = form.getDocument();
-    const SceneDocument& replayed = replay.form.getDocument();
-    EXPECT_EQ(replayed.workPlanes.size(), recorded.workPlanes.size());
-    EXPECT_EQ(replayed.workPlanes.size(), 0u);
+    EXPECT_EQ(replay.form.getDocument().workPlanes.size(), 0u);
     EXPECT_TRUE(replay.form.getViewSpecs(4).wireFrame);
     // The drag turned the view and left the mouse's anchor where it ended.
     EXPECT_EQ(replay.form.getViewSpecs(4), form.getViewSpecs(4));

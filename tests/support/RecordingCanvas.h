@@ -25,14 +25,11 @@ public:
 
     int scaleWidth() const override { return width_; }
     int scaleHeight() const override { return height_; }
-    void resize(int width, int height) {
-        width_ = width;
-        height_ = height;
-    }
     void move(int left, int top, int width, int height) override {
         left_ = left;
         top_ = top;
-        resize(width, height);
+        width_ = width;
+        height_ = height;
     }
     int left() const { return left_; }
     int top() const { return top_; }

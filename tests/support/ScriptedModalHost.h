@@ -1,13 +1,12 @@
 #pragma once
 
+#include "platform/ModalDialog.h"
 #include "platform/ModalHost.h"
 #include "support/AnswerQueue.h"
 
 #include <functional>
 #include <string>
 #include <vector>
-
-class ModalDialog;
 
 // A modal host in which a test plays the user: for each dialog to be shown it queues the
 // steps the user takes inside it, naming the controls. Showing a dialog runs the next
@@ -17,12 +16,24 @@ class ScriptedModalHost : public ModalHost {
 public:
     using Step = std::function<void(ModalDialog&)>;
 
-    static Step type(const std::string& textBox, const std::string& text);
-    static Step check(const std::string& checkBox, bool value);
-    static Step choose(const std::string& option);
-    static Step pick(const std::string& list, int ListIndex);
-    static Step scroll(const std::string& scrollBar, int value);
-    static Step press(const std::string& button);
+    static Step type(const std::string& textBox, const std::string& text) {
+        return [=](ModalDialog& dialog) { dialog.typeText(textBox, text); };
+    }
+    static Step check(const std::string& checkBox, bool value) {
+        return [=](ModalDialog& dialog) { dialog.setChecked(checkBox, value); };
+    }
+    static Step choose(const std::string& option) {
+        return [=](ModalDialog& dialog) { dialog.chooseOption(option); };
+    }
+    static Step pick(const std::string& list, int ListIndex) {
+        return [=](ModalDialog& dialog) { dialog.pickListLine(list, ListIndex); };
+    }
+    static Step scroll(const std::string& scrollBar, int value) {
+        return [=](ModalDialog& dialog) { dialog.moveScrollBar(scrollBar, value); };
+    }
+    static Step press(const std::string& button) {
+        return [=](ModalDialog& dialog) { dialog.press(button); };
+    }
 
     void queueDialog(std::vector<Step> steps) { scripts_.push(std::move(steps)); }
     // The captions of the dialogs shown, in order.

@@ -30,9 +30,16 @@ public:
     ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
 
     MessageAnswer messageBox(const std::string& text, const std::string& title, MessageIcon icon,
-                             MessageButtons buttons) override;
+                             MessageButtons buttons) override {
+        messages_.push_back(Message{text, title, icon, buttons});
+        return answers_.take(buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No);
+    }
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
-                                        const std::string& defaultText) override;
+                                        const std::string& defaultText) override {
+        inputPrompts_.push_back(prompt);
+        inputBoxes_.push_back(InputBox{prompt, title, defaultText});
+        return inputs_.take(std::nullopt);
+    }
 
     void queueAnswer(MessageAnswer answer) { answers_.push(answer); }
     void queueInput(std::optional<std::string> input) { inputs_.push(std::move(input)); }
