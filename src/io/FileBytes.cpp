@@ -6,20 +6,33 @@
 
 namespace FileBytes {
 
-std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
-                     std::vector<uint8_t>& bytes) {
-    bytes.clear();
-    FileSystem::Handle handle = -1;
+std::error_code openRegular(FileSystem& system, const std::string& path, FileSystem::Handle& handle,
+                            FileSystem::Status& status) {
     if (const std::error_code error = system.openToRead(path, handle)) {
         return error;
     }
-    FileSystem::Status status;
     std::error_code error = system.statusOf(handle, status);
     if (!error && status.kind == FileSystem::Kind::Directory) {
         error = std::make_error_code(std::errc::is_a_directory);
     } else if (!error && status.kind != FileSystem::Kind::Regular) {
         error = FileError::notRegularFile;
-    } else if (!error && status.size > from) {
+    }
+    if (error) {
+        system.close(handle);
+    }
+    return error;
+}
+
+std::error_code read(FileSystem& system, const std::string& path, uint64_t from,
+                     std::vector<uint8_t>& bytes) {
+    bytes.clear();
+    FileSystem::Handle handle = -1;
+    FileSystem::Status status;
+    if (const std::error_code error = openRegular(system, path, handle, status)) {
+        return error;
+    }
+    std::error_code error;
+    if (status.size > from) {
         try {
             bytes.resize(static_cast<size_t>(status.size - from));
         } catch (const std::bad_alloc&) {

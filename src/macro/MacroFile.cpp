@@ -1,6 +1,6 @@
 #include "macro/MacroFile.h"
 
-#include "io/FileError.h"
+#include "io/FileBytes.h"
 #include "macro/MessageText.h"
 #include "platform/FileSystem.h"
 
@@ -54,18 +54,8 @@ MacroFile::MacroFile(std::string text)
 
 MacroFile MacroFile::open(FileSystem& files, const std::string& path) {
     FileSystem::Handle handle = -1;
-    if (const std::error_code error = files.openToRead(path, handle)) {
-        throw std::system_error(error);
-    }
     FileSystem::Status status;
-    std::error_code error = files.statusOf(handle, status);
-    if (!error && status.kind == FileSystem::Kind::Directory) {
-        error = std::make_error_code(std::errc::is_a_directory);
-    } else if (!error && status.kind != FileSystem::Kind::Regular) {
-        error = FileError::notRegularFile;
-    }
-    if (error) {
-        files.close(handle);
+    if (const std::error_code error = FileBytes::openRegular(files, path, handle, status)) {
         throw std::system_error(error);
     }
     auto file = std::make_shared<OpenFile>(files, handle, status.size);
