@@ -18,7 +18,7 @@ void redrawAll(benchmark::State& state, const SceneDocument& document) {
     frmTolvane form(dialogs);
     form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
     form.getDocument().solids = document.solids;
-    form.setViewportLayout(static_cast<int32_t>(state.range(0)));
+    form.getViewports().viewportLayout = static_cast<int32_t>(state.range(0));
     form.Form_Resize(1600, 900);
     for (auto _ : state) {
         form.redrawAllViewports();

@@ -1,10 +1,11 @@
 #include "app/FileCommands.h"
 
+#include "app/EditorPort.h"
 #include "app/MainMenu.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
+#include "app/SelectionState.h"
 #include "app/ViewportSet.h"
-#include "app/frmTolvane.h"
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "io/CommonDialogNoOCX.h"
@@ -62,16 +63,16 @@ void FileCommands::bind(MainMenu& menus) {
 void FileCommands::New() {
     const MessageAnswer answer = activePrompts().messageBox(
         "Are you sure you want to create a new file.  All unsaved information will be lost.",
-        window_.caption(), MessageIcon::None, MessageButtons::YesNoDefaultNo);
+        editor_.caption(), MessageIcon::None, MessageButtons::YesNoDefaultNo);
     if (answer != MessageAnswer::Yes) {
         return;
     }
-    window_.resetAllSelect();
+    selection_.resetAllSelect();
     document_.solids.clear();
     document_.profiles.clear();
     document_.currentProfile.reset(); // it has left the document with the others
     document_.workPlanes.clear();
-    window_.rebuildTree();
+    editor_.rebuildTree();
 }
 
 void FileCommands::Open() {
@@ -86,13 +87,13 @@ void FileCommands::Open() {
                     "Opening...", MessageIcon::Critical);
         document_.solids.clear();
         // The tree must not lead to the objects that are gone.
-        window_.rebuildTree();
+        editor_.rebuildTree();
         return;
     }
     document_.solids = std::move(*list);
     // Workplanes and profiles stay in the document but lose their nodes until the next rebuild.
     tree_.showSolids(document_.solids);
-    window_.redrawAllViewports();
+    editor_.redrawAllViewports();
 }
 
 void FileCommands::Save() {

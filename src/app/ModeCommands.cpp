@@ -1,7 +1,8 @@
 #include "app/ModeCommands.h"
 
+#include "app/EditorPort.h"
 #include "app/MainMenu.h"
-#include "app/frmTolvane.h"
+#include "app/SelectionState.h"
 #include "interaction/ClickHandleFaceSelector.h"
 #include "interaction/ClickHandleProfileSelector.h"
 #include "interaction/ClickHandleRotate.h"
@@ -16,8 +17,8 @@
 namespace {
 
 // Binds the item of this name on the bar (mnu...) and in the pop-up (mnuPopup...).
-template <class Mode> void bindMode(MainMenu& menus, frmTolvane& window, const std::string& name) {
-    frmTolvane* w = &window;
+template <class Mode> void bindMode(MainMenu& menus, EditorPort& editor, const std::string& name) {
+    EditorPort* w = &editor;
     for (const char* prefix : {"mnu", "mnuPopup"}) {
         menus.bind(std::string(prefix) + name, [w] { w->setMouseMode(std::make_unique<Mode>()); });
     }
@@ -25,16 +26,16 @@ template <class Mode> void bindMode(MainMenu& menus, frmTolvane& window, const s
 
 } // namespace
 
-void ModeCommands::bind(MainMenu& menus, frmTolvane& window) {
-    bindMode<ClickHandleScroll>(menus, window, "Scroll");
-    bindMode<ClickHandleRotate>(menus, window, "Rotate");
-    bindMode<ClickHandleZoom>(menus, window, "Zoom");
-    bindMode<ClickHandleSolidSelector>(menus, window, "SolidSelector");
-    bindMode<ClickHandleFaceSelector>(menus, window, "FaceSelector");
-    bindMode<ClickHandleWorkPlaneSelector>(menus, window, "WorkPlaneSelector");
-    bindMode<ClickHandleProfileSelector>(menus, window, "ProfileSelector");
-    frmTolvane* w = &window;
+void ModeCommands::bind(MainMenu& menus, EditorPort& editor, SelectionState& selection) {
+    bindMode<ClickHandleScroll>(menus, editor, "Scroll");
+    bindMode<ClickHandleRotate>(menus, editor, "Rotate");
+    bindMode<ClickHandleZoom>(menus, editor, "Zoom");
+    bindMode<ClickHandleSolidSelector>(menus, editor, "SolidSelector");
+    bindMode<ClickHandleFaceSelector>(menus, editor, "FaceSelector");
+    bindMode<ClickHandleWorkPlaneSelector>(menus, editor, "WorkPlaneSelector");
+    bindMode<ClickHandleProfileSelector>(menus, editor, "ProfileSelector");
+    SelectionState* s = &selection;
     for (const char* name : {"mnuDeselectAll", "mnuPopupDeselectAll"}) {
-        menus.bind(name, [w] { w->resetAllSelect(); });
+        menus.bind(name, [s] { s->resetAllSelect(); });
     }
 }

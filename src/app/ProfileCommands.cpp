@@ -1,11 +1,11 @@
 #include "app/ProfileCommands.h"
 
+#include "app/EditorPort.h"
 #include "app/MainMenu.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
 #include "app/ViewportSet.h"
-#include "app/frmTolvane.h"
 #include "geometry/M3Ops.h"
 #include "geometry/Pi.h"
 #include "geometry/Vector3D.h"
@@ -33,7 +33,7 @@ void ProfileCommands::bind(MainMenu& menus) {
 }
 
 void ProfileCommands::startProfile() {
-    window_.setMouseMode(std::make_unique<ClickHandleProfile>());
+    editor_.setMouseMode(std::make_unique<ClickHandleProfile>());
     createProfile();
 }
 
@@ -59,14 +59,14 @@ void ProfileCommands::createProfile() {
     ViewSpecs& eye = viewports_.viewSpecs(4);
     eye.EyePhi = wp.getXRotation();
     eye.EyeTheta = static_cast<float>(wp.getYRotation() + 1.570796326794895);
-    window_.redrawAllViewports();
+    editor_.redrawAllViewports();
 }
 
 void ProfileCommands::setCurrentProfile(const std::shared_ptr<Profile>& profile) {
     document_.currentProfile = profile;
 }
 
-void ProfileCommands::addProfilePoint(PointRecord r) {
+void ProfileCommands::addProfilePoint(const PointRecord& clicked) {
     if (!document_.currentProfile) {
         return;
     }
@@ -90,6 +90,7 @@ void ProfileCommands::addProfilePoint(PointRecord r) {
                                  static_cast<float>(wp.getXRotation() + Pi::pi14));
     Matrix4 shift;
     M3Ops::setTranslation(shift, offset.getX(), offset.getY(), offset.getZ());
+    PointRecord r = clicked;
     r.trans = Point4{};
     M3Ops::transformPoint(r.coord, shift, r.trans);
     r.coord = r.trans;
@@ -114,7 +115,7 @@ bool ProfileCommands::closeProfile() {
     // The profile tool's guess; another mode has none to offer.
     std::vector<std::any> datum;
     std::vector<std::any> castGuide;
-    window_.getMouseMode().getData(datum, castGuide);
+    editor_.getMouseMode().getData(datum, castGuide);
     COrientation guess;
     guess.setOrientation(Orientation2D::Unknown);
     if (!datum.empty()) {
@@ -140,9 +141,11 @@ bool ProfileCommands::closeProfile() {
         // Node and list place are both looked up by the profile, not taken from the list's
         // length: after Open the tree holds no nodes of the profiles drawn before it, so the
         // last list place would name another profile's node, or none.
-        window_.removeProfile(listPlace(profile), tree_.keyOf(profile));
+        tree_.removeNode(tree_.keyOf(profile));
+        document_.removeProfile(listPlace(profile));
+        editor_.redrawAllViewports();
     }
-    window_.setMouseMode(std::make_unique<ClickHandleNothing>());
+    editor_.setMouseMode(std::make_unique<ClickHandleNothing>());
     return false;
 }
 
@@ -189,5 +192,5 @@ void ProfileCommands::cancelProfile() {
         return;
     }
     removeLastProfile();
-    window_.setMouseMode(std::make_unique<ClickHandleNothing>());
+    editor_.setMouseMode(std::make_unique<ClickHandleNothing>());
 }

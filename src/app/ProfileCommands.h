@@ -1,29 +1,31 @@
 #pragma once
 
 #include "geometry/PointRecord.h"
+#include "interaction/ProfileReceiver.h"
 
 #include <cstdint>
 #include <memory>
 
+class EditorPort;
 class MainMenu;
 class ModalHost;
 class Profile;
 class SceneTreeModel;
 class SelectionState;
 class ViewportSet;
-class frmTolvane;
 struct SceneDocument;
 
 // The commands of the profile being drawn on the one selected workplane: starting it,
 // its points, closing it with a confirmed orientation, drawing it again and cancelling it.
 // The current profile is always the document's last profile; when it leaves the document
 // (cancelled, drawn again, removed from the tree, a new document) it is forgotten, so a
-// command never closes or removes a profile that is no longer there.
-class ProfileCommands {
+// command never closes or removes a profile that is no longer there. The profile tool hands
+// its points and its close here.
+class ProfileCommands : public ProfileReceiver {
 public:
-    ProfileCommands(frmTolvane& window, SceneDocument& document, const SelectionState& selection,
+    ProfileCommands(EditorPort& editor, SceneDocument& document, const SelectionState& selection,
                     SceneTreeModel& tree, ViewportSet& viewports, ModalHost& dialogs)
-        : window_(window), document_(document), selection_(selection), tree_(tree),
+        : editor_(editor), document_(document), selection_(selection), tree_(tree),
           viewports_(viewports), dialogs_(dialogs) {}
 
     // Makes the Create menu's and the pop-up's "&Profile" and the Profile menu run these.
@@ -38,12 +40,12 @@ public:
     void setCurrentProfile(const std::shared_ptr<Profile>& profile);
     // Moves a clicked point by the selected workplane's offset vector and appends it to the
     // current profile; without exactly one selected workplane it says why and adds nothing.
-    void addProfilePoint(PointRecord r);
+    void addProfilePoint(const PointRecord& clicked) override;
     // Always false. Ends the profile where it began, has the user confirm which way it runs
     // (stored clockwise), and gives it its tree node; when the user cancels, the profile is
     // removed again. Without a current profile it says that nothing can be closed; one of
     // fewer than two points stays open.
-    bool closeProfile();
+    bool closeProfile() override;
     // After a Yes, the current profile is removed and a new one started in its place.
     void redrawProfile();
     // After a Yes, the current profile is removed and the profile tool put away.
@@ -59,7 +61,7 @@ private:
     // Removes the last profile and its tree node, if it has one.
     void removeLastProfile();
 
-    frmTolvane& window_;
+    EditorPort& editor_;
     SceneDocument& document_;
     const SelectionState& selection_;
     SceneTreeModel& tree_;

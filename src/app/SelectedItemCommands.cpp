@@ -1,10 +1,10 @@
 #include "app/SelectedItemCommands.h"
 
+#include "app/EditorPort.h"
 #include "app/MainMenu.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
-#include "app/frmTolvane.h"
 #include "modelling/frmExtrude.h"
 #include "modelling/frmFaceProperty.h"
 #include "modelling/frmProfileProperty.h"
@@ -32,7 +32,7 @@ void SelectedItemCommands::Extrude() {
     }
     for (const auto& profile : selection_.selectedProfiles) {
         try {
-            frmExtrude dialog(dialogs_, colors_, window_);
+            frmExtrude dialog(dialogs_, colors_, preview_);
             dialog.initialize(profile);
             dialogs_.showModal(dialog);
             if (const auto object = dialog.getExtrusion()) {
@@ -69,5 +69,5 @@ void SelectedItemCommands::showSelectedProperties() {
         dialog.initialize(profile);
         dialogs_.showModal(dialog);
     }
-    window_.redrawAllViewports();
+    editor_.redrawAllViewports();
 }

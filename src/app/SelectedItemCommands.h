@@ -1,23 +1,24 @@
 #pragma once
 
 class ColorChooser;
+class EditorPort;
+class ExtrusionPreviewTarget;
 class MainMenu;
 class ModalHost;
 class SceneTreeModel;
 class SelectionState;
-class frmTolvane;
 struct SceneDocument;
 
 // The commands that hand the selected items to their dialogs: Extrude sweeps each selected
 // profile into a new solid, Properties opens the property dialog of every selected item.
 class SelectedItemCommands {
 public:
-    // The extrusion dialog previews its normal in window's viewports.
-    SelectedItemCommands(frmTolvane& window, SceneDocument& document,
+    // The extrusion dialog previews its normal in preview's viewports.
+    SelectedItemCommands(EditorPort& editor, SceneDocument& document,
                          const SelectionState& selection, SceneTreeModel& tree, ModalHost& dialogs,
-                         ColorChooser& colors)
-        : window_(window), document_(document), selection_(selection), tree_(tree),
-          dialogs_(dialogs), colors_(colors) {}
+                         ColorChooser& colors, ExtrusionPreviewTarget& preview)
+        : editor_(editor), document_(document), selection_(selection), tree_(tree),
+          dialogs_(dialogs), colors_(colors), preview_(preview) {}
 
     // Makes "&Extrusion", the pop-up's "&Extrude" and "&Property <enter>" run these.
     void bind(MainMenu& menus);
@@ -32,10 +33,11 @@ public:
     void showSelectedProperties();
 
 private:
-    frmTolvane& window_;
+    EditorPort& editor_;
     SceneDocument& document_;
     const SelectionState& selection_;
     SceneTreeModel& tree_;
     ModalHost& dialogs_;
     ColorChooser& colors_;
+    ExtrusionPreviewTarget& preview_;
 };

@@ -10,6 +10,7 @@
 #include "scene/WorkPlane.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
 
 namespace {
@@ -97,9 +98,15 @@ void SelectionState::resetAllSelect() {
     resetSelectWorkplanes();
     resetSelectNodes();
     resetSelectProfiles();
+    tree_.refresh();
 }
 
 void SelectionState::AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) {
+    paintNode(node, color);
+    tree_.refresh();
+}
+
+void SelectionState::paintNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) {
     if (!node) {
         return; // the tree lacks the hit's node; the hit stays selected all the same
     }
@@ -152,32 +159,35 @@ namespace {
 
 // Paints the nodes keyed letter + place of the selected items among all.
 template <class Item>
-void paintSelected(SelectionState& selection, const std::vector<std::shared_ptr<Item>>& selected,
-                   const std::vector<std::shared_ptr<Item>>& all, TreeDisplay& tree,
-                   const char* letter, int32_t color) {
+void paintSelected(const std::vector<std::shared_ptr<Item>>& selected,
+                   const std::vector<std::shared_ptr<Item>>& all, const char* letter,
+                   const std::function<void(const std::string&)>& paint) {
     for (const auto& item : selected) {
         const auto found = std::find(all.begin(), all.end(), item);
         if (found != all.end()) {
-            const auto n = found - all.begin() + 1;
-            selection.AddSelectNode(tree.findNode(letter + std::to_string(n)), color);
+            paint(letter + std::to_string(found - all.begin() + 1));
         }
     }
 }
 
 } // namespace
 
-void SelectionState::repaintNodes(const SceneDocument& document, TreeDisplay& tree) {
+void SelectionState::repaintNodes(const SceneDocument& document) {
     selectNodes = {};
-    paintSelected(*this, selectedSolids, document.solids, tree, "s", 255);
-    paintSelected(*this, selectedWorkplanes, document.workPlanes, tree, "w", 65535);
-    paintSelected(*this, selectedProfiles, document.profiles, tree, "r", 16711935);
+    const auto painter = [this](int32_t color) {
+        return [this, color](const std::string& key) { paintNode(tree_.findNode(key), color); };
+    };
+    paintSelected(selectedSolids, document.solids, "s", painter(255));
+    paintSelected(selectedWorkplanes, document.workPlanes, "w", painter(65535));
+    paintSelected(selectedProfiles, document.profiles, "r", painter(16711935));
     for (const auto& face : selectedFaces) {
         for (size_t s = 0; s < document.solids.size(); ++s) {
             if (face->getSolidContainer() == document.solids[s]->getSolid().get()) {
-                AddSelectNode(tree.findNode("f" + std::to_string(face->getOrderNum()) + "-s" +
-                                            std::to_string(s + 1)),
-                              16776960);
+                paintNode(tree_.findNode("f" + std::to_string(face->getOrderNum()) + "-s" +
+                                         std::to_string(s + 1)),
+                          16776960);
             }
         }
     }
+    tree_.refresh();
 }

@@ -1,8 +1,8 @@
 #include "app/ViewCommands.h"
 
+#include "app/EditorPort.h"
 #include "app/MainMenu.h"
 #include "app/ViewportSet.h"
-#include "app/frmTolvane.h"
 #include "render/KorvanOpsConsts.h"
 
 #include <functional>
@@ -20,8 +20,8 @@ bool toggle(MenuItem& item) {
 
 } // namespace
 
-void ViewCommands::bind(MainMenu& menus, frmTolvane& window, ViewportSet& viewports) {
-    frmTolvane* w = &window;
+void ViewCommands::bind(MainMenu& menus, EditorPort& editor, ViewportSet& viewports) {
+    EditorPort* w = &editor;
     ViewportSet* v = &viewports;
     // A bar item changes every record, then redraws.
     const auto all = [w, v](const RecordChange& change) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "modelling/ExtrusionPreviewTarget.h"
 #include "render/ViewSpecs.h"
 #include "render/ViewportRenderer.h"
 #include "render/viewInfo.h"
@@ -24,7 +25,7 @@ struct ControlPlacement {
 // The four viewports: their canvases picOrtho(0) to picOrtho(3), the view record of each
 // (viewSpecs(i + 1) belongs to picOrtho(i)), their layout beside the scene tree, and their
 // redraw.
-class ViewportSet {
+class ViewportSet : public ExtrusionPreviewTarget {
 public:
     // Records 1 to 4: top, side, front and isometric, all in perspective.
     ViewportSet();
@@ -38,7 +39,13 @@ public:
         return records[static_cast<size_t>(number - 1)];
     }
     // A copy of record index for index 1 to 4, nothing otherwise.
-    std::optional<viewInfo> getViewInfo(int32_t index) const;
+    std::optional<viewInfo> getViewInfo(int32_t index) const override;
+    // The extrusion preview draws into canvases 0 to 3.
+    void getPicOrthoBounds(int32_t& lower, int32_t& upper) const override {
+        lower = 0;
+        upper = 3;
+    }
+    Canvas* getPicOrtho(int32_t index) const override { return canvas(index); }
 
     // 1: the fourth viewport alone; 4: all four in a 2 x 2 grid.
     int32_t viewportLayout = 1;

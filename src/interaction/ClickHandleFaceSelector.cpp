@@ -1,6 +1,6 @@
 #include "interaction/ClickHandleFaceSelector.h"
 
-#include "interaction/ClickReceiver.h"
+#include "interaction/SelectionReceiver.h"
 #include "interaction/TreeDisplay.h"
 #include "render/FaceRegionEncap.h"
 #include "render/GDIRegion.h"
@@ -19,7 +19,7 @@ std::optional<viewInfo> ClickHandleFaceSelector::handleLeftClick(MouseEventArgs&
         return std::nullopt;
     }
     const Matrix4 full = fullMatrix(args);
-    args.messageReceiver.resetAllSelect();
+    args.selection.resetAllSelect();
     std::vector<std::shared_ptr<Face3d>> hits;
     int32_t s = 1;
     for (const auto& object : args.solids) {
@@ -30,7 +30,7 @@ std::optional<viewInfo> ClickHandleFaceSelector::handleLeftClick(MouseEventArgs&
                 const auto face = pair->getFace();
                 face->setSelected(true);
                 hits.push_back(face);
-                args.messageReceiver.AddSelectNode(
+                args.selection.AddSelectNode(
                     args.treeDisplay.findNode("f" + std::to_string(face->getOrderNum()) + "-s" +
                                               std::to_string(s)),
                     16776960);
@@ -40,6 +40,6 @@ std::optional<viewInfo> ClickHandleFaceSelector::handleLeftClick(MouseEventArgs&
         ++s;
     }
     args.treeDisplay.refresh();
-    args.messageReceiver.setSelectedFaces(hits);
+    args.selection.setSelectedFaces(hits);
     return args.viewSpecs;
 }

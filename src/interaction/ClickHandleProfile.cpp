@@ -4,7 +4,7 @@
 #include "geometry/M3Ops.h"
 #include "geometry/NumberText.h"
 #include "geometry/NumberedError.h"
-#include "interaction/ClickReceiver.h"
+#include "interaction/ProfileReceiver.h"
 #include "platform/Canvas.h"
 #include "render/CanvasStateGuard.h"
 #include "render/KorvanOpsConsts.h"
@@ -55,7 +55,7 @@ std::optional<viewInfo> ClickHandleProfile::handleLeftClick(MouseEventArgs& args
     lastClickX = args.mouseX;
     lastClickY = args.mouseY;
     lastPoint = *pt;
-    args.messageReceiver.addProfilePoint(*pt);
+    args.profileTool.addProfilePoint(*pt);
     // Also when the window refused the point: the guess follows the clicks.
     orientation.addAngle(static_cast<float>(args.mouseX), static_cast<float>(args.mouseY));
     return std::nullopt;
@@ -63,7 +63,7 @@ std::optional<viewInfo> ClickHandleProfile::handleLeftClick(MouseEventArgs& args
 
 std::optional<viewInfo> ClickHandleProfile::handleMiddleClick(MouseEventArgs& args) {
     // Closing installs another mode, which ends this object: nothing of it is used after.
-    args.messageReceiver.closeProfile();
+    args.profileTool.closeProfile();
     return args.viewSpecs;
 }
 

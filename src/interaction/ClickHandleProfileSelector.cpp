@@ -1,7 +1,7 @@
 #include "interaction/ClickHandleProfileSelector.h"
 
 #include "interaction/ClickHandleSelector.h"
-#include "interaction/ClickReceiver.h"
+#include "interaction/SelectionReceiver.h"
 #include "interaction/TreeDisplay.h"
 #include "render/GDIRegion.h"
 #include "scene/Profile.h"
@@ -14,17 +14,17 @@ std::optional<viewInfo> ClickHandleProfileSelector::handleLeftClick(MouseEventAr
     }
     const Matrix4 full = ClickHandleSelector::fullMatrix(args);
     std::vector<std::shared_ptr<Profile>> hits;
-    args.messageReceiver.resetAllSelect();
+    args.selection.resetAllSelect();
     int32_t r = 1;
     for (const auto& profile : args.profiles) {
         if (profile->createRegion(full)->inRegion(args.mouseX, args.mouseY)) {
             hits.push_back(profile);
-            args.messageReceiver.AddSelectNode(args.treeDisplay.findNode("r" + std::to_string(r)),
-                                               16711935);
+            args.selection.AddSelectNode(args.treeDisplay.findNode("r" + std::to_string(r)),
+                                         16711935);
             profile->setSelected(true);
         }
         ++r;
     }
-    args.messageReceiver.setSelectedProfiles(hits);
+    args.selection.setSelectedProfiles(hits);
     return std::nullopt;
 }

@@ -1,6 +1,6 @@
 #include "interaction/ClickHandleSolidSelector.h"
 
-#include "interaction/ClickReceiver.h"
+#include "interaction/SelectionReceiver.h"
 #include "interaction/TreeDisplay.h"
 #include "render/GDIRegion.h"
 #include "scene/Transformed3d.h"
@@ -13,7 +13,7 @@ std::optional<viewInfo> ClickHandleSolidSelector::handleLeftClick(MouseEventArgs
         return std::nullopt;
     }
     const Matrix4 full = fullMatrix(args);
-    args.messageReceiver.resetAllSelect();
+    args.selection.resetAllSelect();
     std::vector<std::shared_ptr<Transformed3d>> hits;
     int32_t s = 1;
     for (const auto& object : args.solids) {
@@ -25,13 +25,12 @@ std::optional<viewInfo> ClickHandleSolidSelector::handleLeftClick(MouseEventArgs
         if (hit) {
             object->setSelected(true);
             hits.push_back(object);
-            args.messageReceiver.AddSelectNode(args.treeDisplay.findNode("s" + std::to_string(s)),
-                                               255);
+            args.selection.AddSelectNode(args.treeDisplay.findNode("s" + std::to_string(s)), 255);
         }
         object->Culled(false);
         ++s;
     }
     args.treeDisplay.refresh();
-    args.messageReceiver.setSelectedSolids(hits);
+    args.selection.setSelectedSolids(hits);
     return args.viewSpecs;
 }

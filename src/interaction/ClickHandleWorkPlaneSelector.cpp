@@ -1,6 +1,6 @@
 #include "interaction/ClickHandleWorkPlaneSelector.h"
 
-#include "interaction/ClickReceiver.h"
+#include "interaction/SelectionReceiver.h"
 #include "interaction/TreeDisplay.h"
 #include "render/GDIRegion.h"
 #include "scene/WorkPlane.h"
@@ -12,7 +12,7 @@ std::optional<viewInfo> ClickHandleWorkPlaneSelector::handleLeftClick(MouseEvent
         return std::nullopt;
     }
     const Matrix4 full = fullMatrix(args);
-    args.messageReceiver.resetAllSelect();
+    args.selection.resetAllSelect();
     std::vector<std::shared_ptr<WorkPlane>> hits;
     int32_t n = 1;
     for (const auto& workPlane : args.workPlanes) {
@@ -21,14 +21,13 @@ std::optional<viewInfo> ClickHandleWorkPlaneSelector::handleLeftClick(MouseEvent
         if (region && region->inRegion(args.mouseX, args.mouseY)) {
             workPlane->setSelected(true);
             hits.push_back(workPlane);
-            args.messageReceiver.AddSelectNode(args.treeDisplay.findNode("w" + std::to_string(n)),
-                                               65535);
+            args.selection.AddSelectNode(args.treeDisplay.findNode("w" + std::to_string(n)), 65535);
         }
         // The next redraw projects the plane afresh for each viewport.
         workPlane->resetTransformedPoints();
         ++n;
     }
     args.treeDisplay.refresh();
-    args.messageReceiver.setSelectedWorkplanes(hits);
+    args.selection.setSelectedWorkplanes(hits);
     return args.viewSpecs;
 }

@@ -8,19 +8,22 @@
 #include <vector>
 
 class Canvas;
-class ClickReceiver;
 class Profile;
+class ProfileReceiver;
+class SelectionReceiver;
 class Transformed3d;
 class TreeDisplay;
 class WorkPlane;
 
-// The ten arguments every mouse-mode operation receives: the canvas that got the event, the
-// window to call back, the mouse position in canvas pixels, the sensitivity, a private
+// The arguments every mouse-mode operation receives: the canvas that got the event, the
+// selection that selectors hand their hits to, the profile commands that the profile tool
+// hands its points to, the mouse position in canvas pixels, the sensitivity, a private
 // copy of that canvas's view record (or none, when an earlier handler of the same event
 // returned none), the document's collections and the scene tree.
 struct MouseEventArgs {
     Canvas& messageSender;
-    ClickReceiver& messageReceiver;
+    SelectionReceiver& selection;
+    ProfileReceiver& profileTool;
     int32_t mouseX;
     int32_t mouseY;
     float MouseSensivity;

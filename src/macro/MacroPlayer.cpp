@@ -196,7 +196,7 @@ void MacroPlayer::playMenu(const macro::Menu& menu) {
 }
 
 void MacroPlayer::playMouse(const macro::Mouse& mouse) {
-    const Canvas* canvas = form_->getPicOrtho(mouse.viewport);
+    const Canvas* canvas = form_->getViewports().canvas(mouse.viewport);
     if (canvas == nullptr || !canvas->isVisible()) {
         stop("viewport " + std::to_string(mouse.viewport) + " is not shown");
     }

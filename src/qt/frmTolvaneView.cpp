@@ -101,7 +101,7 @@ void frmTolvaneView::setClientSize(int width, int height) {
 
 void frmTolvaneView::clientResized(int width, int height) {
     EventGuard::run([&] { form_.Form_Resize(width, height); });
-    const ControlPlacement& tree = form_.getTreePlacement();
+    const ControlPlacement& tree = form_.getViewports().getTreePlacement();
     tree_->setGeometry(tree.left, tree.top, tree.width, tree.height);
 }
 

@@ -25,10 +25,11 @@ struct Drawing : TestWindow {
     explicit Drawing(int points) {
         const auto plane = makeWorkPlane(1, 0, 0);
         form.getDocument().workPlanes.push_back(plane);
-        form.setSelectedWorkplanes({plane});
-        form.createProfile();
+        form.getSelection().setSelectedWorkplanes({plane});
+        form.getProfileCommands().createProfile();
         for (int i = 0; i < points; ++i) {
-            form.addProfilePoint(clicked(static_cast<float>(i), static_cast<float>(i * i), 0));
+            form.getProfileCommands().addProfilePoint(
+                clicked(static_cast<float>(i), static_cast<float>(i * i), 0));
         }
         prompts.forget();
     }
@@ -43,11 +44,11 @@ struct Drawing : TestWindow {
 
 TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByItsOffset) {
     TestWindow w;
-    w.form.addProfilePoint(clicked(1, 2, 3)); // no current profile: nothing
-    w.form.setCurrentProfile(std::make_shared<Profile>());
-    w.form.addProfilePoint(clicked(1, 2, 3));
-    w.form.setSelectedWorkplanes({makeWorkPlane(1, 0, 0), makeWorkPlane(1, 0, 0)});
-    w.form.addProfilePoint(clicked(1, 2, 3));
+    w.form.getProfileCommands().addProfilePoint(clicked(1, 2, 3)); // no current profile: nothing
+    w.form.getProfileCommands().setCurrentProfile(std::make_shared<Profile>());
+    w.form.getProfileCommands().addProfilePoint(clicked(1, 2, 3));
+    w.form.getSelection().setSelectedWorkplanes({makeWorkPlane(1, 0, 0), makeWorkPlane(1, 0, 0)});
+    w.form.getProfileCommands().addProfilePoint(clicked(1, 2, 3));
     w.choose({"&Create", "&Profile"}); // then the workplanes outside the document are forgotten
     w.popup(3, {"&Profile"});
     const auto& messages = w.prompts.messages();
@@ -60,15 +61,16 @@ TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByIts
     EXPECT_TRUE(w.form.getDocument().profiles.empty());
     EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::Crosshair); // the tool stays
 
-    w.form.setSelectedWorkplanes({makeWorkPlane(1, 0.25f, 0.5f)});
+    w.form.getSelection().setSelectedWorkplanes({makeWorkPlane(1, 0.25f, 0.5f)});
     w.canvases[3].forget();
     w.choose({"&Create", "&Profile"});
     ASSERT_EQ(w.form.getDocument().profiles.size(), 1u);
     EXPECT_EQ(w.form.getDocument().currentProfile, w.form.getDocument().profiles[0]);
-    EXPECT_EQ(w.form.getViewSpecs(4).EyePhi, 0.25f);
-    EXPECT_EQ(w.form.getViewSpecs(4).EyeTheta, static_cast<float>(0.5f + 1.570796326794895));
-    EXPECT_EQ(w.form.getViewSpecs(3).EyePhi, 0.0f); // the other views stay
-    EXPECT_FALSE(w.canvases[3].calls().empty());    // redrawn
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyePhi, 0.25f);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyeTheta,
+              static_cast<float>(0.5f + 1.570796326794895));
+    EXPECT_EQ(w.form.getViewports().viewSpecs(3).EyePhi, 0.0f); // the other views stay
+    EXPECT_FALSE(w.canvases[3].calls().empty());                // redrawn
 
     // The offset vector is (offset cos x sin y, -offset sin x, -offset cos x cos y).
     const float quarter = static_cast<float>(3.14159265358979 / 2);
@@ -79,10 +81,12 @@ TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByIts
     for (const auto& [offset, xRotation, yRotation, x, y, z] : cases) {
         SCOPED_TRACE(testing::Message() << offset << " " << xRotation << " " << yRotation);
         auto profile = std::make_shared<Profile>();
-        w.form.setCurrentProfile(profile);
-        w.form.setSelectedWorkplanes({makeWorkPlane(1, xRotation, yRotation, offset)});
-        w.form.addProfilePoint(clicked(1, 2, 3));
-        w.form.addProfilePoint(clicked(0, 0, 0)); // a profile shows its points from two on
+        w.form.getProfileCommands().setCurrentProfile(profile);
+        w.form.getSelection().setSelectedWorkplanes(
+            {makeWorkPlane(1, xRotation, yRotation, offset)});
+        w.form.getProfileCommands().addProfilePoint(clicked(1, 2, 3));
+        w.form.getProfileCommands().addProfilePoint(
+            clicked(0, 0, 0)); // a profile shows its points from two on
         const PointRecord added = profile->getPointRecord(1);
         EXPECT_NEAR(added.coord.x, x, 1e-5);
         EXPECT_NEAR(added.coord.y, y, 1e-5);

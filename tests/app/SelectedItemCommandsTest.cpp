@@ -20,7 +20,8 @@ TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails
               "extruding.");
     EXPECT_TRUE(w.dialogs.shown().empty());
 
-    w.form.setSelectedProfiles({makeDiamondProfile(), makeDiamondProfile(), makeDiamondProfile()});
+    w.form.getSelection().setSelectedProfiles(
+        {makeDiamondProfile(), makeDiamondProfile(), makeDiamondProfile()});
     w.dialogs.queueDialog({Host::press("mnuExtrude")});
     w.dialogs.queueDialog({Host::press("mnuCancel")});
     w.dialogs.queueDialog({Host::type("txtExtrusionLength", "2"), Host::press("mnuExtrude")});
@@ -34,7 +35,8 @@ TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails
               w.form.getDocument().solids[1]);
 
     // An error while extruding ends the command, keeping the earlier solids.
-    w.form.setSelectedProfiles({makeDiamondProfile(), makeDiamondProfile(), makeDiamondProfile()});
+    w.form.getSelection().setSelectedProfiles(
+        {makeDiamondProfile(), makeDiamondProfile(), makeDiamondProfile()});
     w.dialogs.queueDialog({Host::press("mnuExtrude")});
     w.dialogs.queueDialog({[](ModalDialog&) { throw ArithmeticError("overflow"); }});
     w.popup(3, {"&Extrude"});
@@ -54,10 +56,10 @@ TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw
     w.form.getDocument().workPlanes.push_back(workPlane);
     w.form.getDocument().profiles.push_back(profile);
     // Set in the reverse of the order the dialogs open in.
-    w.form.setSelectedProfiles({profile});
-    w.form.setSelectedWorkplanes({workPlane});
-    w.form.setSelectedSolids({object});
-    w.form.setSelectedFaces({object->getFaces().front()});
+    w.form.getSelection().setSelectedProfiles({profile});
+    w.form.getSelection().setSelectedWorkplanes({workPlane});
+    w.form.getSelection().setSelectedSolids({object});
+    w.form.getSelection().setSelectedFaces({object->getFaces().front()});
     for (int i = 0; i < 3; ++i) {
         w.dialogs.queueDialog({Host::press("mnuCancel")});
     }

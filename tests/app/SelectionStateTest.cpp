@@ -1,5 +1,6 @@
 #include "app/SelectionState.h"
 
+#include "app/SceneTreeModel.h"
 #include "app/SceneTreeNode.h"
 #include "scene/Face3d.h"
 #include "scene/Transformed3d.h"
@@ -19,7 +20,8 @@ template <class Item> std::shared_ptr<Item> selected() {
 
 TEST(SelectionState, SeveralItemsFromOneClickAreKeptOnlyOnYesAndResetClearsAll) {
     ScriptedPrompts prompts;
-    SelectionState selection;
+    SceneTreeModel tree;
+    SelectionState selection{tree};
     const auto earlier = selected<Face3d>();
     selection.setSelectedFaces({earlier}); // one face: no question
     EXPECT_TRUE(prompts.messages().empty());

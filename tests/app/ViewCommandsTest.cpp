@@ -8,20 +8,22 @@ TEST(ViewCommands, BarItemsSetEveryRecordAndRedrawPopupItemsTheRightClickedOne) 
     w.canvases[3].forget();
     w.choose({"&View", "&Projection Type", "P&arallel"});
     for (int number = 1; number <= 4; ++number) {
-        EXPECT_EQ(w.form.getViewSpecs(number).ProjectionType, 0) << number;
+        EXPECT_EQ(w.form.getViewports().viewSpecs(number).ProjectionType, 0) << number;
     }
     EXPECT_FALSE(w.canvases[3].calls().empty());
     w.choose({"&View", "&Projection Type", "P&erspective"});
-    EXPECT_EQ(w.form.getViewSpecs(2).ProjectionType, 1);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(2).ProjectionType, 1);
 
     w.popup(1, {"&Projection Type", "P&arallel"});
-    EXPECT_EQ(w.form.getViewSpecs(2).ProjectionType, 0);
-    EXPECT_EQ(w.form.getViewSpecs(1).ProjectionType, 1);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(2).ProjectionType, 0);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(1).ProjectionType, 1);
 
     w.popup(3, {"Se&t View", "&Top"});
-    EXPECT_EQ(w.form.getViewSpecs(4).EyeTheta, w.form.getViewSpecs(1).EyeTheta);
-    EXPECT_EQ(w.form.getViewSpecs(4).EyePhi, w.form.getViewSpecs(1).EyePhi);
-    EXPECT_NE(w.form.getViewSpecs(3).EyeTheta, w.form.getViewSpecs(1).EyeTheta);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyeTheta,
+              w.form.getViewports().viewSpecs(1).EyeTheta);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyePhi, w.form.getViewports().viewSpecs(1).EyePhi);
+    EXPECT_NE(w.form.getViewports().viewSpecs(3).EyeTheta,
+              w.form.getViewports().viewSpecs(1).EyeTheta);
 }
 
 TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedrawShows) {
@@ -30,14 +32,14 @@ TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedr
     w.popup(1, {"&Display", "&Backface Removal"});
     EXPECT_FALSE(menus.item("mnuPopupBackfaceRemoval").isChecked());
     EXPECT_TRUE(menus.item("mnuBackfaceRemoval").isChecked());
-    EXPECT_FALSE(w.form.getViewSpecs(2).HideSurfaces);
-    EXPECT_TRUE(w.form.getViewSpecs(3).HideSurfaces);
+    EXPECT_FALSE(w.form.getViewports().viewSpecs(2).HideSurfaces);
+    EXPECT_TRUE(w.form.getViewports().viewSpecs(3).HideSurfaces);
 
     // The bar writes its own new state, off, to every record; then on again.
     w.choose({"&View", "&Display", "&Backface Removal"});
-    EXPECT_FALSE(w.form.getViewSpecs(3).HideSurfaces);
+    EXPECT_FALSE(w.form.getViewports().viewSpecs(3).HideSurfaces);
     w.choose({"&View", "&Display", "&Backface Removal"});
-    EXPECT_TRUE(w.form.getViewSpecs(2).HideSurfaces);
+    EXPECT_TRUE(w.form.getViewports().viewSpecs(2).HideSurfaces);
     EXPECT_FALSE(menus.item("mnuPopupBackfaceRemoval").isChecked());
 
     for (const char* caption : {"&Grid", "&Zero Axes", "&Reference Axes"}) {

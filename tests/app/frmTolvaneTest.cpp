@@ -46,38 +46,38 @@ struct Window : TestWindow {
 
 TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
     TestWindow w;
-    w.form.setMouseSensivity(0.01f);
-    const ViewSpecs before = w.form.getViewSpecs(4);
+    w.form.getMouse().setMouseSensivity(0.01f);
+    const ViewSpecs before = w.form.getViewports().viewSpecs(4);
     drag(w, 1, 100, 100, 110, 95);
-    const ViewSpecs& turned = w.form.getViewSpecs(4);
+    const ViewSpecs& turned = w.form.getViewports().viewSpecs(4);
     EXPECT_NEAR(turned.EyeTheta - before.EyeTheta, 0.1, 1e-6);
     EXPECT_NEAR(turned.EyePhi - before.EyePhi, -0.05, 1e-6);
     EXPECT_EQ(turned.anchorX, 110);
     EXPECT_EQ(turned.anchorY, 95);
     EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::SizeAll);
-    EXPECT_EQ(w.form.getViewSpecs(1).EyeTheta, 0.0f); // only the record under the mouse
+    EXPECT_EQ(w.form.getViewports().viewSpecs(1).EyeTheta, 0.0f); // only the record under the mouse
 
-    w.form.setMouseSensivity(0.0025f);
+    w.form.getMouse().setMouseSensivity(0.0025f);
     w.form.setMouseMode(std::make_unique<ClickHandleZoom>());
     drag(w, 1, 0, 0, 0, 30);
-    EXPECT_NEAR(w.form.getViewSpecs(4).zoom, 225.0f, 1e-4);
+    EXPECT_NEAR(w.form.getViewports().viewSpecs(4).zoom, 225.0f, 1e-4);
     w.form.setMouseMode(std::make_unique<ClickHandleScroll>());
     drag(w, 1, 0, 0, 4, -2);
-    EXPECT_NEAR(w.form.getViewSpecs(4).shiftx, 5.0f, 1e-5);
-    EXPECT_NEAR(w.form.getViewSpecs(4).shifty, -2.5f, 1e-5);
+    EXPECT_NEAR(w.form.getViewports().viewSpecs(4).shiftx, 5.0f, 1e-5);
+    EXPECT_NEAR(w.form.getViewports().viewSpecs(4).shifty, -2.5f, 1e-5);
 
     // Left and right together change nothing but the anchor, under the crosshair.
-    ViewSpecs expected = w.form.getViewSpecs(4);
+    ViewSpecs expected = w.form.getViewports().viewSpecs(4);
     w.form.picOrtho_MouseMove(3, 3, 0, 40, 40);
     expected.anchorX = 40;
     expected.anchorY = 40;
-    EXPECT_EQ(w.form.getViewSpecs(4), expected);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4), expected);
     EXPECT_EQ(w.canvases[3].mousePointer(), MousePointer::Crosshair);
 
     // A position far off the canvas counts as a million pixels off.
     drag(w, 3, 3e9f, 0, -3e9f, 1e30f);
-    EXPECT_EQ(w.form.getViewSpecs(4).anchorX, -(1 << 20));
-    EXPECT_EQ(w.form.getViewSpecs(4).anchorY, 1 << 20);
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).anchorX, -(1 << 20));
+    EXPECT_EQ(w.form.getViewports().viewSpecs(4).anchorY, 1 << 20);
 
     auto mode = std::make_unique<DragReturnsNone>();
     const auto& moveGotView = mode->moveGotView;
@@ -89,10 +89,10 @@ TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
 
     w.dialogs.queueDialog({Host::scroll("HScroll1", 1), Host::press("mnuAccept")});
     w.choose({"&Options", "&Set Mouse Sensivity"});
-    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+    EXPECT_EQ(w.form.getMouse().getMouseSensivity(), 1.0f);
     w.dialogs.queueDialog({Host::scroll("HScroll1", 1000), Host::press("mnuCancel")});
     w.choose({"&Options", "&Set Mouse Sensivity"});
-    EXPECT_EQ(w.form.getMouseSensivity(), 1.0f);
+    EXPECT_EQ(w.form.getMouse().getMouseSensivity(), 1.0f);
 }
 
 TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumbers) {
@@ -105,7 +105,7 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumber
     // The "Points" child: the whole selection cleared, nothing selected.
     w.form.TreeView1_NodeClick(*w.node("s1").children()[0]);
     EXPECT_FALSE(face->isSelected());
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
 
     // Delete on a face node removes nothing.
     w.form.TreeView1_NodeClick(w.node("f3-s2"));
@@ -117,24 +117,22 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumber
     w.form.TreeView1_NodeClick(w.node("s2"));
     EXPECT_TRUE(w.form.getDocument().solids[1]->isSelected());
     EXPECT_EQ(w.node("s2").BackColor, 255);
-    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+    EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
 
     w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     ASSERT_EQ(w.form.getDocument().solids.size(), 2u);
     EXPECT_EQ(w.form.getDocument().solids[1], third);
     // The deleted solid is no longer selected, so Properties cannot reach it.
     EXPECT_TRUE(w.form.getSelection().selectedSolids.empty());
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
     EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 1", "s2: Solid 2"}));
     // After the rebuild no node is selected: Delete removes nothing more.
     w.form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
     EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
 
-    // Removing leaves the texts until a key rebuilds the tree; the selected solid's new node
-    // keeps the selection's colour.
+    // After a key rebuilds the tree, the selected solid's new node keeps the selection's colour.
     w.form.TreeView1_NodeClick(w.node("s2"));
-    w.form.removeSolid(1, "s1");
-    EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 2"}));
+    w.form.getDocument().solids.erase(w.form.getDocument().solids.begin());
     w.form.TreeView1_KeyDown('A');
     EXPECT_EQ(w.topNodes(), (std::vector<std::string>{"s1: Solid 1"}));
     EXPECT_EQ(w.node("s1").BackColor, 255);
@@ -147,12 +145,12 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumber
     EXPECT_TRUE(profile->isSelected());
     EXPECT_EQ(w.node("r1").BackColor, 16711935);
     // Selecting a profile leaves the menu be; the next update sees the profile.
-    w.form.resetSelectFaces();
-    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+    w.form.getSelection().resetSelectFaces();
+    EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
 
-    w.form.resetSelectProfiles();
+    w.form.getSelection().resetSelectProfiles();
     EXPECT_FALSE(profile->isSelected());
-    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
-    w.form.resetSelectWorkplanes();
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
+    w.form.getSelection().resetSelectWorkplanes();
+    EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
 }

@@ -21,7 +21,7 @@ struct Drawing : TestWindow {
         auto workPlane = std::make_shared<WorkPlane>();
         workPlane->initialize(2, 0, 0, 0, 0);
         form.getDocument().workPlanes.push_back(workPlane);
-        form.setSelectedWorkplanes({workPlane});
+        form.getSelection().setSelectedWorkplanes({workPlane});
         choose({"&Create", "&Profile"});
     }
     void click(int index, const Point4& at) { form.picOrtho_MouseDown(index, 1, 0, at.x, at.y); }
@@ -77,7 +77,7 @@ TEST(ClickHandleProfile, ReadOutShowsThePointerAndAfterAClickItsDistanceAndTheRu
         // On the last lines, in 6 x 13 pixel cells on a 400 x 300 canvas, right-aligned.
         EXPECT_EQ(texts[2].points[0].y, 300 - 13);
 
-        d.form.setSelectedWorkplanes({});
+        d.form.getSelection().setSelectedWorkplanes({});
         d.click(view, fromPixel);
         ASSERT_EQ(d.prompts.messages().size(), 1u);
         EXPECT_EQ(d.prompts.messages()[0].title, "Cannot add profile point");

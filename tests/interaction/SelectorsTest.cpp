@@ -60,7 +60,7 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
         auto workPlane = std::make_shared<WorkPlane>();
         workPlane->initialize(2, 0, 0, 0, 0);
         w.document().workPlanes.push_back(workPlane);
-        w.form.addWorkplaneNode(workPlane, "Workplane");
+        w.form.getSceneTree().addWorkplaneNode(workPlane, "Workplane");
     }
     w.form.setMouseMode(std::make_unique<ClickHandleWorkPlaneSelector>());
     w.clickAt(isometric, 0.1f, 0.2f, 0);
@@ -70,7 +70,7 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     EXPECT_EQ(w.node("w1").BackColor, 65535);
     EXPECT_EQ(w.node("w2").BackColor, 65535);
     EXPECT_TRUE(w.prompts.messages().empty());
-    EXPECT_TRUE(w.form.isPropertyMenuEnabled());
+    EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
     EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::Crosshair);
 }
 
@@ -97,7 +97,7 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     EXPECT_EQ(w.prompts.messages().size(), 2u);
     EXPECT_FALSE(upperTop->isSelected());
     EXPECT_FALSE(lowerTop->isSelected());
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
     EXPECT_EQ(w.node("f5-s1").BackColor, 16776960);
 }
 
@@ -119,7 +119,7 @@ TEST(Selectors, ASolidUnderTheClickSeveralTimesIsSelectedOnce) {
 
     w.form.picOrtho_MouseDown(top, 1, 0, 2, 2);
     EXPECT_FALSE(cube->isSelected());
-    EXPECT_FALSE(w.form.isPropertyMenuEnabled());
+    EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
 }
 
 TEST(Selectors, AProfileEnclosingTheClickIsSelectedAndPaintedMagenta) {

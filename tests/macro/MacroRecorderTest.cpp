@@ -52,9 +52,9 @@ TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
         macro, {&replayCanvases[0], &replayCanvases[1], &replayCanvases[2], &replayCanvases[3]});
     replay.player.playAll();
     EXPECT_EQ(replay.form.getDocument().workPlanes.size(), 0u);
-    EXPECT_TRUE(replay.form.getViewSpecs(4).wireFrame);
+    EXPECT_TRUE(replay.form.getViewports().viewSpecs(4).wireFrame);
     // The drag turned the view and left the mouse's anchor where it ended.
-    EXPECT_EQ(replay.form.getViewSpecs(4), form.getViewSpecs(4));
+    EXPECT_EQ(replay.form.getViewports().viewSpecs(4), form.getViewports().viewSpecs(4));
     EXPECT_EQ(replay.player.played(), 20);
     // The refused size's message is checked as it is replayed.
     EXPECT_NE(text.str().find("expect message \"Invalid"), std::string::npos);
@@ -67,5 +67,5 @@ TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
     ASSERT_EQ(w.prompts.messages().size(), messages + 1);
     EXPECT_EQ(w.prompts.messages().back().text,
               "The macro cannot be written (input/output error); recording has stopped.");
-    EXPECT_EQ(form.getTreePlacement().width, 160);
+    EXPECT_EQ(form.getViewports().getTreePlacement().width, 160);
 }

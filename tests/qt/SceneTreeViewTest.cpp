@@ -18,7 +18,7 @@ struct Shown : ShownWindow {
         form.getDocument().solids.push_back(makeObject());
         form.getSceneTree().addSolidNode(form.getDocument().solids[0], 1, "Solid");
         form.getDocument().workPlanes.push_back(makeWorkPlane(2, 0, 0));
-        form.addWorkplaneNode(form.getDocument().workPlanes[0], "Workplane");
+        form.getSceneTree().addWorkplaneNode(form.getDocument().workPlanes[0], "Workplane");
         QApplication::processEvents();
     }
     QAbstractItemModel& model() { return *window.TreeView1().model(); }

@@ -42,7 +42,7 @@ TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) 
     ASSERT_NE(parallel, nullptr);
     EXPECT_EQ(parallel->shortcut(), QKeySequence(Qt::Key_F1));
     parallel->trigger();
-    EXPECT_EQ(s.form.getViewSpecs(3).ProjectionType, 0);
+    EXPECT_EQ(s.form.getViewports().viewSpecs(3).ProjectionType, 0);
     findAction(bar, {"&View", "&Projection Type", "P&erspective"})->trigger();
 
     QAction* grid = findAction(bar, {"&View", "&Display", "&Grid"});
@@ -62,8 +62,8 @@ TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) 
     });
     sendMouse(s.window.picOrtho(1), QEvent::MouseButtonPress, {20, 20}, Qt::RightButton,
               Qt::RightButton);
-    EXPECT_EQ(s.form.getViewSpecs(2).ProjectionType, 0);
-    EXPECT_EQ(s.form.getViewSpecs(1).ProjectionType, 1);
+    EXPECT_EQ(s.form.getViewports().viewSpecs(2).ProjectionType, 0);
+    EXPECT_EQ(s.form.getViewports().viewSpecs(1).ProjectionType, 1);
 }
 
 TEST(frmTolvaneView, KeysAndMouseReachTheWindowAndAFailingCommandIsReported) {
@@ -76,13 +76,13 @@ TEST(frmTolvaneView, KeysAndMouseReachTheWindowAndAFailingCommandIsReported) {
 
     CanvasWidget& viewport = s.window.picOrtho(3);
     const QImage before = viewport.canvas().image();
-    const ViewSpecs specsBefore = s.form.getViewSpecs(4);
+    const ViewSpecs specsBefore = s.form.getViewports().viewSpecs(4);
     sendMouse(viewport, QEvent::MouseMove, {300, 300}, Qt::NoButton, Qt::NoButton);
     sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
     sendMouse(viewport, QEvent::MouseMove, {360, 330}, Qt::NoButton, Qt::LeftButton);
     sendMouse(viewport, QEvent::MouseButtonRelease, {360, 330}, Qt::LeftButton, Qt::NoButton);
-    EXPECT_NE(s.form.getViewSpecs(4).EyeTheta, specsBefore.EyeTheta);
-    EXPECT_NE(s.form.getViewSpecs(4).EyePhi, specsBefore.EyePhi);
+    EXPECT_NE(s.form.getViewports().viewSpecs(4).EyeTheta, specsBefore.EyeTheta);
+    EXPECT_NE(s.form.getViewports().viewSpecs(4).EyePhi, specsBefore.EyePhi);
     EXPECT_NE(viewport.canvas().image(), before);
     EXPECT_EQ(viewport.cursor().shape(), Qt::SizeAllCursor);
 
@@ -94,7 +94,7 @@ TEST(frmTolvaneView, KeysAndMouseReachTheWindowAndAFailingCommandIsReported) {
     EXPECT_EQ(s.form.getDocument().solids.size(), 1u);
     // The next event is handled as usual.
     sendMouse(viewport, QEvent::MouseMove, {310, 300}, Qt::NoButton, Qt::NoButton);
-    EXPECT_EQ(s.form.getViewSpecs(4).anchorX, 310);
+    EXPECT_EQ(s.form.getViewports().viewSpecs(4).anchorX, 310);
 }
 
 TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {

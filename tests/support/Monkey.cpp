@@ -109,7 +109,7 @@ void Monkey::plan() {
         planned_.push_back(macro::Menu{false, {"&Create", "&WorkPlane", "&Parameter Creation"}});
         return;
     }
-    const Canvas* canvas = form_->getPicOrtho(3);
+    const Canvas* canvas = form_->getViewports().canvas(3);
     const int width = canvas->scaleWidth();
     const int height = canvas->scaleHeight();
     planned_.push_back(macro::TreeClick{
@@ -186,7 +186,7 @@ float Monkey::coordinate(int size) {
 MacroAction Monkey::mouse() {
     std::vector<int> shown;
     for (int i = 0; i < 4; ++i) {
-        if (const Canvas* canvas = form_->getPicOrtho(i);
+        if (const Canvas* canvas = form_->getViewports().canvas(i);
             canvas != nullptr && canvas->isVisible()) {
             shown.push_back(i);
         }
@@ -196,7 +196,7 @@ MacroAction Monkey::mouse() {
     }
     macro::Mouse mouse;
     mouse.viewport = oneOf(shown);
-    const Canvas& canvas = *form_->getPicOrtho(mouse.viewport);
+    const Canvas& canvas = *form_->getViewports().canvas(mouse.viewport);
     mouse.press = chance(35);
     if (mouse.press) {
         const int buttons[] = {1, 1, 1, 1, 2, 4, 3, 0};

@@ -43,7 +43,7 @@ struct TestWindow {
 
     // Four 400 x 300 viewports instead of the one of start-up.
     void showFourViewports() {
-        form.setViewportLayout(4);
+        form.getViewports().viewportLayout = 4;
         form.Form_Resize(1000, 600);
     }
 
@@ -53,7 +53,7 @@ struct TestWindow {
         M3Ops::transformPoint(
             Point4{x, y, z, 1},
             KorvanOpsConsts::getFullViewMatrix(canvases[static_cast<size_t>(index)],
-                                               form.getViewSpecs(index + 1)),
+                                               form.getViewports().viewSpecs(index + 1)),
             seen);
         return seen;
     }
