@@ -3,6 +3,7 @@
 #include "app/SameBits.h"
 #include "geometry/CPoint3D.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 ProfileEdit::Snapshot ProfileEdit::capture(const std::shared_ptr<Profile>& profile) {

@@ -25,10 +25,11 @@ struct LoggedCommand : DocumentCommand {
     bool changesSavedFile() const override { return saved; }
 };
 
+// One command per tag; a blank stands for a dialog that changed nothing (no command).
 std::vector<std::unique_ptr<DocumentCommand>> step(const std::string& tags, bool saved = true) {
     std::vector<std::unique_ptr<DocumentCommand>> commands;
     for (const char tag : tags) {
-        commands.push_back(std::make_unique<LoggedCommand>(tag, saved));
+        commands.push_back(tag == ' ' ? nullptr : std::make_unique<LoggedCommand>(tag, saved));
     }
     return commands;
 }
@@ -38,7 +39,7 @@ std::vector<std::unique_ptr<DocumentCommand>> step(const std::string& tags, bool
 TEST(UndoHistory, StepsUndoInReverseRedoInOrderAndAPushDropsTheRedoSteps) {
     SceneDocument document;
     UndoHistory history;
-    history.push("nothing", step(""));
+    history.push("nothing", step(" "));
     EXPECT_FALSE(history.canUndo());
     history.push("A", step("xy"));
     logged.clear();
@@ -164,15 +165,24 @@ TEST(FaceEdit, KeepsOnlyTheChangedFacesAndRestoresThemExactly) {
     EXPECT_EQ(face.NumPts, 3);
 }
 
-TEST(WorkplaneEdit, RestoresEveryValueAndTheVisibility) {
+TEST(WorkplaneEdit, EachValueMakesAnEditAndUndoRestoresThemAll) {
     SceneDocument document;
     const auto plane = makeWorkPlane(10, 0.5f, 0.25f, 1, 0x112233);
     const auto before = WorkplaneEdit::capture(plane);
-    plane->initialize(10, 0.5f, 0.25f, 1, 0x112233);
-    EXPECT_EQ(WorkplaneEdit::since(before), nullptr);
-    plane->initialize(20, 1, 2, 3, 0x445566);
-    plane->setVisibility(false);
-    const auto edit = WorkplaneEdit::since(before);
+    const auto accepted = [&](float size, float x, float y, float offset, int32_t color,
+                              bool visible) {
+        plane->initialize(size, x, y, offset, color);
+        plane->setVisibility(visible);
+        return WorkplaneEdit::since(before);
+    };
+    EXPECT_EQ(accepted(10, 0.5f, 0.25f, 1, 0x112233, true), nullptr);
+    EXPECT_NE(accepted(11, 0.5f, 0.25f, 1, 0x112233, true), nullptr);
+    EXPECT_NE(accepted(10, 0.6f, 0.25f, 1, 0x112233, true), nullptr);
+    EXPECT_NE(accepted(10, 0.5f, 0.35f, 1, 0x112233, true), nullptr);
+    EXPECT_NE(accepted(10, 0.5f, 0.25f, 2, 0x112233, true), nullptr);
+    EXPECT_NE(accepted(10, 0.5f, 0.25f, 1, 0x112234, true), nullptr);
+    EXPECT_NE(accepted(10, 0.5f, 0.25f, 1, 0x112233, false), nullptr);
+    const auto edit = accepted(20, 1, 2, 3, 0x445566, false);
     edit->undo(document);
     EXPECT_EQ(plane->getSize(), 10.0f);
     EXPECT_EQ(plane->getXRotation(), 0.5f);
