@@ -20,7 +20,7 @@
 // undone.
 template <class Item> class ListChange : public DocumentCommand {
 public:
-    // Inserts item at place (at the end when place is past it).
+    // Inserts item at place (at the end when place is 0 or past the end).
     static std::unique_ptr<ListChange> insert(SceneDocument& document, std::shared_ptr<Item> item,
                                               size_t place) {
         std::unique_ptr<ListChange> change(new ListChange(std::move(item), place, true));

@@ -110,6 +110,7 @@ TEST(ListChange, UndoFindsAnInsertByItsPointerPutsARemovalBackAndMakesItCurrentA
     const auto removal = ListChange<Transformed3d>::remove(document, 2);
     EXPECT_EQ(document.solids, (std::vector{a, c}));
     EXPECT_GT(removal->byteSize(), 8 * sizeof(PointRecord) + 6 * sizeof(Face3d));
+    EXPECT_TRUE(removal->changesSavedFile());
     removal->undo(document);
     EXPECT_EQ(document.solids, (std::vector{a, b, c}));
     removal->redo(document);
@@ -132,6 +133,7 @@ TEST(ListChange, UndoFindsAnInsertByItsPointerPutsARemovalBackAndMakesItCurrentA
     EXPECT_EQ(document.currentProfile, q);
     const auto current = ListChange<Profile>::remove(document, 2);
     EXPECT_EQ(document.currentProfile, nullptr);
+    EXPECT_FALSE(current->changesSavedFile());
     current->undo(document);
     EXPECT_EQ(document.currentProfile, q);
     EXPECT_EQ(document.profiles, (std::vector{p, q}));
