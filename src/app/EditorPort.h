@@ -5,11 +5,13 @@
 #include <string>
 
 class ClickHandleNothing;
+class UndoHistory;
 
 // What the command groups may ask of the editor that runs them: pictures and layout drawn
 // again, the tree made anew, the mouse mode switched or read, and the viewport last
-// right-clicked. Everything else they work on (document, selection, tree, viewports) they are
-// given directly, so that no command group depends on the main window.
+// right-clicked, the undo history and the status line. Everything else they work on (document,
+// selection, tree, viewports) they are given directly, so that no command group depends on the main
+// window.
 class EditorPort {
 public:
     virtual ~EditorPort() = default;
@@ -24,4 +26,8 @@ public:
     virtual ClickHandleNothing& getMouseMode() const = 0;
     // The viewport number (1 to 4) of the last right press, 0 before the first.
     virtual int32_t getPopupViewport() const = 0;
+    // Every change of the document becomes a step of this history.
+    virtual UndoHistory& history() = 0;
+    // A one-line result of a command for the user; nothing before the window is attached.
+    virtual void showStatus(const std::string& text) = 0;
 };

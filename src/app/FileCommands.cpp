@@ -5,6 +5,7 @@
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/UndoHistory.h"
 #include "app/ViewportSet.h"
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
@@ -56,11 +57,46 @@ void FileCommands::bind(MainMenu& menus) {
     menus.bind("mnuFileNew", [this] { New(); });
     menus.bind("mnuFileOpen", [this] { Open(); });
     menus.bind("mnuFileSave", [this] { Save(); });
+    menus.bind("mnuFileSaveAs", [this] { SaveAs(); });
     menus.bind("mnuFileExport", [this] { ExportToBitmap(); });
-    menus.bind("mnuFileExit", [this] { frame_.unload(); });
+    menus.bind("mnuFileExit", [this] { Exit(); });
+}
+
+std::string FileCommands::shownName() const {
+    if (fileName_.empty()) {
+        return "Untitled";
+    }
+    const size_t slash = fileName_.find_last_of('/');
+    return slash == std::string::npos ? fileName_ : fileName_.substr(slash + 1);
+}
+
+std::string FileCommands::title() const {
+    return shownName() + "[*] - " + editor_.caption();
+}
+
+bool FileCommands::settleUnsavedChanges() {
+    if (!editor_.history().isModified()) {
+        return true;
+    }
+    const MessageAnswer answer =
+        activePrompts().messageBox("Save changes to " + shownName() + "?", editor_.caption(),
+                                   MessageIcon::Exclamation, MessageButtons::SaveDiscardCancel);
+    if (answer == MessageAnswer::Save) {
+        return saveAs("Save File");
+    }
+    return answer == MessageAnswer::Discard;
+}
+
+void FileCommands::Exit() {
+    if (settleUnsavedChanges()) {
+        frame_.unload();
+    }
 }
 
 void FileCommands::New() {
+    if (!settleUnsavedChanges()) {
+        return;
+    }
     const MessageAnswer answer = activePrompts().messageBox(
         "Are you sure you want to create a new file.  All unsaved information will be lost.",
         editor_.caption(), MessageIcon::None, MessageButtons::YesNoDefaultNo);
@@ -72,10 +108,15 @@ void FileCommands::New() {
     document_.profiles.clear();
     document_.currentProfile.reset(); // it has left the document with the others
     document_.workPlanes.clear();
+    editor_.history().clear();
+    fileName_.clear();
     editor_.rebuildTree();
 }
 
 void FileCommands::Open() {
+    if (!settleUnsavedChanges()) {
+        return;
+    }
     std::string name = fileDialog_.OpenFile(meshFilter(meshIO_), "Open File");
     if (name.empty()) {
         return;
@@ -86,20 +127,33 @@ void FileCommands::Open() {
                         ".  The file might be corrupted or was improperly saved.",
                     "Opening...", MessageIcon::Critical);
         document_.solids.clear();
+        // What is left is no file's content; the steps taken so far lead nowhere now.
+        editor_.history().clear();
+        fileName_.clear();
         // The tree must not lead to the objects that are gone.
         editor_.rebuildTree();
         return;
     }
     document_.solids = std::move(*list);
+    editor_.history().clear();
+    fileName_ = TavrinMeshIO::normalizeFileName(name);
     // Workplanes and profiles stay in the document but lose their nodes until the next rebuild.
     tree_.showSolids(document_.solids);
     editor_.redrawAllViewports();
 }
 
 void FileCommands::Save() {
-    const std::string name = fileDialog_.OpenFile(meshFilter(meshIO_), "Save File");
+    saveAs("Save File");
+}
+
+void FileCommands::SaveAs() {
+    saveAs("Save File As");
+}
+
+bool FileCommands::saveAs(const std::string& dialogTitle) {
+    const std::string name = fileDialog_.OpenFile(meshFilter(meshIO_), dialogTitle);
     if (name.empty()) {
-        return;
+        return false;
     }
     bool ok = false;
     {
@@ -108,7 +162,12 @@ void FileCommands::Save() {
     }
     if (!ok) {
         showMessage("Error saving Tavrin Mesh File", "Saving...", MessageIcon::Critical);
+        return false;
     }
+    editor_.history().markClean();
+    fileName_ = TavrinMeshIO::normalizeFileName(name);
+    editor_.showStatus("Saved " + shownName());
+    return true;
 }
 
 void FileCommands::ExportToBitmap() {

@@ -28,6 +28,14 @@ public:
         return change;
     }
 
+    // The record of an item the document already holds at place, added by other means: a
+    // profile joins the document when it is started and becomes a step when it is closed.
+    static std::unique_ptr<ListChange> inserted(std::shared_ptr<Item> item, size_t place) {
+        std::unique_ptr<ListChange> change(new ListChange(std::move(item), place, true));
+        change->inDocument_ = true;
+        return change;
+    }
+
     // Removes the item at place; nothing, and no record, when there is no such item.
     static std::unique_ptr<ListChange> remove(SceneDocument& document, size_t place) {
         auto& items = list(document);

@@ -25,8 +25,17 @@ MainMenu::MainMenu() {
     file.add("mnuFileNew", "&New");
     file.add("mnuFileOpen", "&Open");
     file.add("mnuFileSave", "&Save");
+    file.add("mnuFileSaveAs", "Save &As...").setShortcuts({"Ctrl+Shift+S"});
     file.add("mnuFileExport", "&Export To Bitmap");
     file.add("mnuFileExit", "E&xit");
+
+    MenuItem& edit = bar.add("mnuEdit", "&Edit");
+    MenuItem& undo = edit.add("mnuEditUndo", "&Undo");
+    undo.setShortcuts({"Ctrl+Z"});
+    undo.setEnabled(false);
+    MenuItem& redo = edit.add("mnuEditRedo", "&Redo");
+    redo.setShortcuts({"Ctrl+Y", "Ctrl+Shift+Z"});
+    redo.setEnabled(false);
 
     MenuItem& create = bar.add("mnuCreate", "&Create");
     MenuItem& workPlane = create.add("mnuCreateWorkPlane", "&WorkPlane");

@@ -1,7 +1,20 @@
 #include "app/MenuItem.h"
 
+#include <string>
+
 MenuItem::MenuItem(std::string name_, std::string caption_, int fKey_)
-    : name(std::move(name_)), caption(std::move(caption_)), fKey(fKey_) {}
+    : name(std::move(name_)), caption(std::move(caption_)) {
+    if (fKey_ > 0) {
+        shortcuts.push_back("F" + std::to_string(fKey_));
+    }
+}
+
+void MenuItem::setStatusTip(const std::string& tip) {
+    if (statusTip != tip) {
+        statusTip = tip;
+        changed();
+    }
+}
 
 void MenuItem::setChecked(bool value) {
     if (checked != value) {

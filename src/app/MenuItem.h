@@ -7,8 +7,9 @@
 
 // One item of the window's menus, named after its control (mnuFileNew). Its caption marks
 // the access key with "&"; the caption "-" is a separator. An item carries its check mark,
-// enabled and visible state, its F-key shortcut and the items under it, and runs its
-// command when chosen. The Qt view mirrors each item and hears of every change.
+// enabled and visible state, its shortcut keys, the status tip that says what it would do,
+// and the items under it, and runs its command when chosen. The Qt view mirrors each item and hears
+// of every change.
 class MenuItem {
 public:
     // fKey 1 to 12 for F1 to F12, 0 for no shortcut.
@@ -17,7 +18,12 @@ public:
     const std::string& getName() const { return name; }
     const std::string& getCaption() const { return caption; }
     bool isSeparator() const { return caption == "-"; }
-    int getShortcut() const { return fKey; }
+    // Key sequences in the desktop's portable text ("F1", "Ctrl+Shift+Z"), the first the one
+    // the menu shows.
+    const std::vector<std::string>& getShortcuts() const { return shortcuts; }
+    void setShortcuts(std::vector<std::string> keys) { shortcuts = std::move(keys); }
+    const std::string& getStatusTip() const { return statusTip; }
+    void setStatusTip(const std::string& tip);
     bool isChecked() const { return checked; }
     void setChecked(bool value);
     bool isEnabled() const { return enabled; }
@@ -46,7 +52,8 @@ private:
 
     std::string name;
     std::string caption;
-    int fKey;
+    std::vector<std::string> shortcuts;
+    std::string statusTip;
     bool checked = false;
     bool enabled = true;
     bool visible = true;

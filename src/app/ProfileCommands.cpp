@@ -1,10 +1,12 @@
 #include "app/ProfileCommands.h"
 
 #include "app/EditorPort.h"
+#include "app/ListChange.h"
 #include "app/MainMenu.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/UndoHistory.h"
 #include "app/ViewportSet.h"
 #include "geometry/M3Ops.h"
 #include "geometry/Pi.h"
@@ -109,6 +111,8 @@ bool ProfileCommands::closeProfile() {
     if (profile->getPointCount() < 2) {
         return false;
     }
+    // A profile closed before (C pressed twice) is a step already.
+    const bool closedBefore = profile->getCPoint(profile->getPointCount()) == profile->getCPoint(1);
     // The same point object again, so that the outline ends exactly where it began.
     profile->addCPoint(profile->getCPoint(1));
 
@@ -144,6 +148,11 @@ bool ProfileCommands::closeProfile() {
         tree_.removeNode(tree_.keyOf(profile));
         document_.removeProfile(listPlace(profile));
         editor_.redrawAllViewports();
+    } else if (!closedBefore) {
+        // The points clicked since the profile was started join the document in this step.
+        editor_.history().push(
+            "Close Profile",
+            ListChange<Profile>::inserted(profile, static_cast<size_t>(listPlace(profile))));
     }
     editor_.setMouseMode(std::make_unique<ClickHandleNothing>());
     return false;
@@ -168,13 +177,13 @@ int32_t ProfileCommands::listPlace(const std::shared_ptr<Profile>& profile) cons
     return found == profiles.end() ? 0 : static_cast<int32_t>(found - profiles.begin() + 1);
 }
 
-void ProfileCommands::removeLastProfile() {
+void ProfileCommands::removeLastProfile(const char* step) {
     const auto last = document_.profiles.back();
     // A profile still being drawn has no node, nor has one drawn before an Open.
     if (const std::string key = tree_.keyOf(last); !key.empty()) {
         tree_.removeNode(key);
     }
-    document_.removeProfile(static_cast<int32_t>(document_.profiles.size()));
+    editor_.history().push(step, ListChange<Profile>::remove(document_, document_.profiles.size()));
 }
 
 void ProfileCommands::redrawProfile() {
@@ -182,7 +191,7 @@ void ProfileCommands::redrawProfile() {
         !confirmed("Are you sure you want to redraw your profile?", "Redrawing Profile")) {
         return;
     }
-    removeLastProfile();
+    removeLastProfile("Redraw Profile");
     startProfile();
 }
 
@@ -191,6 +200,6 @@ void ProfileCommands::cancelProfile() {
         !confirmed("Are you sure you want to cancel your profile?", "Canceling Profile")) {
         return;
     }
-    removeLastProfile();
+    removeLastProfile("Cancel Profile");
     editor_.setMouseMode(std::make_unique<ClickHandleNothing>());
 }

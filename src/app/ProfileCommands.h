@@ -43,8 +43,9 @@ public:
     void addProfilePoint(const PointRecord& clicked) override;
     // Always false. Ends the profile where it began, has the user confirm which way it runs
     // (stored clockwise), and gives it its tree node; when the user cancels, the profile is
-    // removed again. Without a current profile it says that nothing can be closed; one of
-    // fewer than two points stays open.
+    // removed again. A confirmed first close is the step that adds the profile to the
+    // history; starting it and clicking its points are not steps of their own. Without a current
+    // profile it says that nothing can be closed; one of fewer than two points stays open.
     bool closeProfile() override;
     // After a Yes, the current profile is removed and a new one started in its place.
     void redrawProfile();
@@ -58,8 +59,8 @@ private:
     bool confirmed(const char* question, const char* title) const;
     // The profile's 1-based place in the document's list, 0 when it is not there.
     int32_t listPlace(const std::shared_ptr<Profile>& profile) const;
-    // Removes the last profile and its tree node, if it has one.
-    void removeLastProfile();
+    // Removes the last profile and its tree node, if it has one, as the step named.
+    void removeLastProfile(const char* step);
 
     EditorPort& editor_;
     SceneDocument& document_;

@@ -11,6 +11,8 @@ struct SceneDocument;
 
 // The commands that hand the selected items to their dialogs: Extrude sweeps each selected
 // profile into a new solid, Properties opens the property dialog of every selected item.
+// Each command that changed the document is one step of the editor's history, however many
+// dialogs it showed.
 class SelectedItemCommands {
 public:
     // The extrusion dialog previews its normal in preview's viewports.
@@ -25,14 +27,17 @@ public:
 
     // One extrusion dialog per selected profile, in order; each new solid is appended with
     // its tree node. An error while one profile is extruded is reported and ends the
-    // command, keeping the solids already made. Refused with a message when no profile is
-    // selected. Nothing is redrawn here.
+    // command, keeping the solids already made (the step holds them). Refused with a message
+    // when no profile is selected. Nothing is redrawn here.
     void Extrude();
     // Opens the dialog of every selected face, solid, workplane and profile, in that order,
     // then redraws.
     void showSelectedProperties();
 
 private:
+    // The property dialogs, one after the other.
+    void showDialogs();
+
     EditorPort& editor_;
     SceneDocument& document_;
     const SelectionState& selection_;

@@ -8,6 +8,12 @@ const std::string noName;
 
 UndoHistory::UndoHistory(size_t byteBudget) : byteBudget_(byteBudget) {}
 
+void UndoHistory::push(std::string name, std::unique_ptr<DocumentCommand> command) {
+    std::vector<std::unique_ptr<DocumentCommand>> commands;
+    commands.push_back(std::move(command));
+    push(std::move(name), std::move(commands));
+}
+
 void UndoHistory::push(std::string name, std::vector<std::unique_ptr<DocumentCommand>> commands) {
     std::erase(commands, nullptr);
     if (commands.empty()) {

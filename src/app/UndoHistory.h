@@ -27,6 +27,8 @@ public:
     // redone, then the oldest steps while the history is over its budget. Null commands are
     // left out; a step without commands is not recorded.
     void push(std::string name, std::vector<std::unique_ptr<DocumentCommand>> commands);
+    // A step of one command.
+    void push(std::string name, std::unique_ptr<DocumentCommand> command);
 
     bool canUndo() const { return done_ > 0; }
     bool canRedo() const { return done_ < steps_.size(); }

@@ -1,6 +1,7 @@
 #pragma once
 
 class ColorChooser;
+class EditorPort;
 class MainMenu;
 class ModalHost;
 class SceneTreeModel;
@@ -8,10 +9,10 @@ struct SceneDocument;
 
 // The Create menu's workplane command: "&Parameter Creation" asks for a new workplane's
 // size, rotations, offset and colour and adds it to the document with its tree node.
-// "&Graphic Creation" does nothing.
+// "&Graphic Creation" does nothing. Each new workplane is a step of the editor's history.
 namespace WorkplaneCommands {
 
-void bind(MainMenu& menus, ModalHost& dialogs, ColorChooser& colors, SceneDocument& document,
-          SceneTreeModel& tree);
+void bind(MainMenu& menus, EditorPort& editor, ModalHost& dialogs, ColorChooser& colors,
+          SceneDocument& document, SceneTreeModel& tree);
 
 } // namespace WorkplaneCommands

@@ -1,5 +1,7 @@
 #include "app/frmTolvane.h"
 
+#include "app/EditCommands.h"
+#include "app/ListChange.h"
 #include "app/ModeCommands.h"
 #include "app/TreeKey.h"
 #include "app/UserEventListener.h"
@@ -8,6 +10,7 @@
 #include "app/frmMouseSensivity.h"
 #include "platform/Canvas.h"
 #include "platform/ModalHost.h"
+#include "platform/WindowFrame.h"
 #include "scene/Profile.h"
 #include "scene/Transformed3d.h"
 #include "scene/WorkPlane.h"
@@ -21,6 +24,7 @@ frmTolvane::frmTolvane(ModalHost& dialogs)
         }
     });
     menus.bind("mnuSetMouseSensivity", [this] { mnuSetMouseSensivity_Click(); });
+    EditCommands::bind(menus, *this, document);
     ViewCommands::bind(menus, *this, viewports);
     ModeCommands::bind(menus, *this, selection);
     profileCommands.bind(menus);
@@ -31,16 +35,30 @@ void frmTolvane::attachCanvases(const std::array<Canvas*, 4>& canvases) {
 }
 
 void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChooser& colors) {
+    windowFrame = &frame;
     mouse.attachFrame(frame);
     fileDialog.emplace(files, colors);
     fileCommands.emplace(*this, document, selection, TreeView1, meshIO, viewports, *fileDialog,
                          frame);
     fileCommands->bind(menus);
     // The dialogs of these commands have colour swatches.
-    WorkplaneCommands::bind(menus, modalHost, colors, document, TreeView1);
+    WorkplaneCommands::bind(menus, *this, modalHost, colors, document, TreeView1);
     selectedItemCommands.emplace(*this, document, selection, TreeView1, modalHost, colors,
                                  viewports);
     selectedItemCommands->bind(menus);
+    refreshMenus();
+}
+
+bool frmTolvane::Form_QueryUnload() {
+    const bool mayClose = !fileCommands || fileCommands->settleUnsavedChanges();
+    refreshMenus();
+    return mayClose;
+}
+
+void frmTolvane::showStatus(const std::string& text) {
+    if (windowFrame != nullptr) {
+        windowFrame->showStatus(text);
+    }
 }
 
 void frmTolvane::Form_Load() {
@@ -72,11 +90,11 @@ void frmTolvane::redrawAllViewports() {
 }
 
 template <class Item>
-void frmTolvane::removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n,
-                            const std::string& key) {
+void frmTolvane::removeItem(int32_t n, const std::string& key, const char* step) {
     // A number the document does not have (the tree out of step) removes no item.
-    if (n >= 1 && static_cast<size_t>(n) <= items.size()) {
-        items.erase(items.begin() + (n - 1));
+    if (n >= 1) {
+        undoHistory.push(step + std::to_string(n),
+                         ListChange<Item>::remove(document, static_cast<size_t>(n)));
     }
     TreeView1.removeNode(key);
     redrawAllViewports();
@@ -129,13 +147,11 @@ void frmTolvane::TreeView1_KeyDown(int KeyCode) {
         const std::string key = TreeView1.SelectedItem->key;
         const TreeKey parsed(key);
         if (parsed.letter == 's') {
-            removeItem(document.solids, parsed.number, key);
+            removeItem<Transformed3d>(parsed.number, key, "Delete Solid ");
         } else if (parsed.letter == 'w') {
-            removeItem(document.workPlanes, parsed.number, key);
+            removeItem<WorkPlane>(parsed.number, key, "Delete Workplane ");
         } else if (parsed.letter == 'r') {
-            document.removeProfile(parsed.number);
-            TreeView1.removeNode(key);
-            redrawAllViewports();
+            removeItem<Profile>(parsed.number, key, "Delete Profile ");
         }
     }
     rebuildTree();
@@ -190,6 +206,10 @@ void frmTolvane::Form_KeyDown(int KeyCode) {
 void frmTolvane::refreshMenus() {
     selection.forgetAllBut(document);
     menus.item("mnuProperty").setEnabled(selection.isPropertyMenuEnabled());
+    EditCommands::refresh(menus, undoHistory);
+    if (windowFrame != nullptr && fileCommands) {
+        windowFrame->setTitle(fileCommands->title(), undoHistory.isModified());
+    }
 }
 
 void frmTolvane::rebuildTree() {

@@ -9,6 +9,7 @@
 #include "app/SceneTreeModel.h"
 #include "app/SelectedItemCommands.h"
 #include "app/SelectionState.h"
+#include "app/UndoHistory.h"
 #include "app/ViewportSet.h"
 #include "io/CommonDialogNoOCX.h"
 #include "io/TavrinMeshIO.h"
@@ -60,6 +61,8 @@ public:
     // node's item; every key press rebuilds the tree.
     void TreeView1_NodeClick(SceneTreeNode& Node);
     void TreeView1_KeyDown(int KeyCode);
+    // Whether the window may close: after Save or Discard when there are unsaved changes.
+    bool Form_QueryUnload();
 
     // The one told of each event the desktop hands this window (not of the start-up load),
     // or nullptr.
@@ -74,6 +77,8 @@ public:
     }
     ClickHandleNothing& getMouseMode() const override { return mouse.getMouseMode(); }
     int32_t getPopupViewport() const override { return mouse.getPopupViewport(); }
+    UndoHistory& history() override { return undoHistory; }
+    void showStatus(const std::string& text) override;
 
     // The menu bar and the pop-up menu, with their commands bound.
     MainMenu& getMenus() { return menus; }
@@ -95,9 +100,9 @@ public:
     static constexpr int startUpClientHeight = 781;
 
 private:
-    // Removes item n of the list with its node (the key given), then redraws.
-    template <class Item>
-    void removeItem(std::vector<std::shared_ptr<Item>>& items, int32_t n, const std::string& key);
+    // Removes item n of its list with its node (the key given) as the step named, then
+    // redraws.
+    template <class Item> void removeItem(int32_t n, const std::string& key, const char* step);
     // Item n selected and its node painted, as a click on the node does.
     template <class Item, class Select>
     void selectByNode(const std::vector<std::shared_ptr<Item>>& items, int32_t n,
@@ -105,11 +110,12 @@ private:
     // Options, "&Set Mouse Sensivity": the sensitivity dialog, modally.
     void mnuSetMouseSensivity_Click();
     // Forgets selected items that left the document and brings the menus' enabled states
-    // up to date; every command and event ends with it.
+    // and the window's title up to date; every command and event ends with it.
     void refreshMenus();
 
     ModalHost& modalHost;
     SceneDocument document;
+    UndoHistory undoHistory;
     SceneTreeModel TreeView1;
     SelectionState selection{TreeView1};
     ViewportSet viewports;
@@ -118,6 +124,7 @@ private:
     TavrinMeshIO meshIO;
     MainMenu menus;
     UserEventListener* userEvents = nullptr;
+    WindowFrame* windowFrame = nullptr;
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
     std::optional<SelectedItemCommands> selectedItemCommands;

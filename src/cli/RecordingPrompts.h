@@ -12,7 +12,7 @@ public:
     MessageAnswer messageBox(const std::string& text, const std::string&, MessageIcon,
                              MessageButtons buttons) override {
         messages_.push_back(text);
-        return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
+        return refusal(buttons);
     }
     std::optional<std::string> inputBox(const std::string&, const std::string&,
                                         const std::string&) override {

@@ -288,9 +288,8 @@ MessageAnswer MacroPlayer::messageBox(const std::string& text, const std::string
         expectedMessage_.reset();
     }
     const MessageAnswer answer = expect<macro::Message>(action, what).answer;
-    if ((buttons == MessageButtons::Ok) != (answer == MessageAnswer::Ok)) {
-        stop(std::string("the message box has ") +
-             (buttons == MessageButtons::Ok ? "only OK" : "Yes and No") + ": " + text);
+    if (!offers(buttons, answer)) {
+        stop("the message box has no such answer: " + text);
     }
     return answer;
 }
@@ -335,6 +334,18 @@ void MacroPlayer::showPopupMenu(Canvas&, int, int) {
         stop(std::visit(Describe{}, *action) + ", but the pop-up menu is open");
     }
     playMenu(*menu);
+}
+
+void MacroPlayer::setTitle(const std::string& title, bool modified) {
+    if (shown_ != nullptr) {
+        shown_->setTitle(title, modified);
+    }
+}
+
+void MacroPlayer::showStatus(const std::string& text) {
+    if (shown_ != nullptr) {
+        shown_->showStatus(text);
+    }
 }
 
 void MacroPlayer::unload() {

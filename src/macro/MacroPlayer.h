@@ -75,6 +75,8 @@ public:
     void setMousePointer(MousePointer pointer) override;
     void showPopupMenu(Canvas& canvas, int x, int y) override;
     void unload() override;
+    void setTitle(const std::string& title, bool modified) override;
+    void showStatus(const std::string& text) override;
 
 private:
     // The source's next action for what waits, after checking the expect lines before it.

@@ -6,6 +6,7 @@
 #include <limits>
 #include <span>
 #include <system_error>
+#include <utility>
 
 namespace {
 
@@ -14,6 +15,12 @@ using Verb = ControlAction::Verb;
 
 // The words a verb of the dialog line is written as, in the order of ControlAction::Verb.
 constexpr std::string_view dialogVerbs[] = {"type", "check", "choose", "pick", "scroll", "press"};
+
+// The words of a message line's answers.
+constexpr std::pair<const char*, MessageAnswer> answerWords[] = {
+    {"ok", MessageAnswer::Ok},           {"yes", MessageAnswer::Yes},
+    {"no", MessageAnswer::No},           {"save", MessageAnswer::Save},
+    {"discard", MessageAnswer::Discard}, {"cancel", MessageAnswer::Cancel}};
 
 std::string quoted(const std::string& text) {
     std::string out = "\"";
@@ -318,16 +325,12 @@ MacroAction parseWords(Words& words) {
     }
     if (verb == "message") {
         const std::string& answer = words.text("answer");
-        if (answer == "ok") {
-            return macro::Message{MessageAnswer::Ok};
+        for (const auto& [word, value] : answerWords) {
+            if (answer == word) {
+                return macro::Message{value};
+            }
         }
-        if (answer == "yes") {
-            return macro::Message{MessageAnswer::Yes};
-        }
-        if (answer == "no") {
-            return macro::Message{MessageAnswer::No};
-        }
-        throw Error("bad message answer " + answer + " (ok, yes or no)");
+        throw Error("bad message answer " + answer + " (ok, yes, no, save, discard or cancel)");
     }
     if (verb == "input") {
         if (words.takeBare("cancel")) {
@@ -401,13 +404,10 @@ struct Formatter {
         return line;
     }
     std::string operator()(const macro::Message& a) const {
-        switch (a.answer) {
-        case MessageAnswer::Yes:
-            return "message yes";
-        case MessageAnswer::No:
-            return "message no";
-        case MessageAnswer::Ok:
-            break;
+        for (const auto& [word, value] : answerWords) {
+            if (a.answer == value) {
+                return std::string("message ") + word;
+            }
         }
         return "message ok";
     }

@@ -9,7 +9,7 @@ public:
     MessageAnswer messageBox(const std::string& text, const std::string& title, MessageIcon,
                              MessageButtons buttons) override {
         std::cerr << title << ": " << text << '\n';
-        return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
+        return refusal(buttons);
     }
     std::optional<std::string> inputBox(const std::string&, const std::string&,
                                         const std::string&) override {
@@ -18,6 +18,37 @@ public:
 };
 
 StderrPrompts fallback;
+
+} // namespace
+
+bool offers(MessageButtons buttons, MessageAnswer answer) {
+    switch (buttons) {
+    case MessageButtons::Ok:
+        return answer == MessageAnswer::Ok;
+    case MessageButtons::YesNo:
+    case MessageButtons::YesNoDefaultNo:
+        return answer == MessageAnswer::Yes || answer == MessageAnswer::No;
+    case MessageButtons::SaveDiscardCancel:
+        break;
+    }
+    return answer == MessageAnswer::Save || answer == MessageAnswer::Discard ||
+           answer == MessageAnswer::Cancel;
+}
+
+MessageAnswer refusal(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::Ok:
+        return MessageAnswer::Ok;
+    case MessageButtons::YesNo:
+    case MessageButtons::YesNoDefaultNo:
+        return MessageAnswer::No;
+    case MessageButtons::SaveDiscardCancel:
+        break;
+    }
+    return MessageAnswer::Cancel;
+}
+
+namespace {
 Prompts* installed = nullptr;
 
 } // namespace

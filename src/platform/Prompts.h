@@ -4,9 +4,15 @@
 #include <string>
 
 enum class MessageIcon : int { None = 0, Critical = 16, Exclamation = 48, Information = 64 };
-// YesNoDefaultNo asks a question whose Yes loses work: Enter answers No.
-enum class MessageButtons { Ok, YesNo, YesNoDefaultNo };
-enum class MessageAnswer { Ok, Yes, No };
+// YesNoDefaultNo asks a question whose Yes loses work: Enter answers No. SaveDiscardCancel
+// asks before unsaved work is replaced: Enter answers Save.
+enum class MessageButtons { Ok, YesNo, YesNoDefaultNo, SaveDiscardCancel };
+enum class MessageAnswer { Ok, Yes, No, Save, Discard, Cancel };
+
+// Whether a box with these buttons can give this answer.
+bool offers(MessageButtons buttons, MessageAnswer answer);
+// The answer that changes nothing: OK, No, or Cancel.
+MessageAnswer refusal(MessageButtons buttons);
 
 // Modal questions to the user: message boxes and input boxes.
 class Prompts {

@@ -2,6 +2,8 @@
 
 #include "platform/MousePointer.h"
 
+#include <string>
+
 class Canvas;
 
 // The top-level window that shows the main window's logic, for what the logic asks of the
@@ -15,6 +17,10 @@ public:
     // Shows the window's pop-up menu at a point of the canvas and returns only when the user
     // has chosen an item, whose command has then run, or dismissed the menu.
     virtual void showPopupMenu(Canvas& canvas, int x, int y) = 0;
-    // Closes the window, which ends the program without a question.
+    // Closes the window, which ends the program without a further question.
     virtual void unload() = 0;
+    // The window's title, with "[*]" where the modified marker goes, and whether it shows.
+    virtual void setTitle(const std::string& title, bool modified) = 0;
+    // A one-line result of a command, at the foot of the window.
+    virtual void showStatus(const std::string& text) = 0;
 };

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QStringList>
+#include <string_view>
 
 namespace {
 
@@ -24,7 +25,8 @@ QStringList nameFilters(const std::string& filter) {
     return filters;
 }
 
-constexpr const char* saveTitle = "Save File";
+// "Save File", and "Save File As".
+constexpr std::string_view saveTitle = "Save File";
 
 } // namespace
 
@@ -35,7 +37,7 @@ std::string QtFileChooser::chooseFile(const std::string& title, const std::strin
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     // The program opens and saves through the one dialog and tells the two apart only by
     // the title it gives; a save shows the desktop's save dialog, whose button says Save.
-    if (title == saveTitle) {
+    if (title.starts_with(saveTitle)) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
     }
     const QStringList filters = nameFilters(filter);

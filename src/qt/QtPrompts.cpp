@@ -21,6 +21,15 @@ MessageAnswer QtPrompts::messageBox(const std::string& text, const std::string& 
         box.setIcon(QMessageBox::Information);
         break;
     }
+    if (buttons == MessageButtons::SaveDiscardCancel) {
+        box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Save);
+        box.setEscapeButton(QMessageBox::Cancel);
+        const int chosen = box.exec();
+        return chosen == QMessageBox::Save      ? MessageAnswer::Save
+               : chosen == QMessageBox::Discard ? MessageAnswer::Discard
+                                                : MessageAnswer::Cancel;
+    }
     if (buttons != MessageButtons::Ok) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(buttons == MessageButtons::YesNoDefaultNo ? QMessageBox::No

@@ -7,11 +7,13 @@
 #include "qt/SceneTreeView.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
 #include <QResizeEvent>
+#include <QStatusBar>
 #include <functional>
 
 namespace {
@@ -38,13 +40,13 @@ void showItem(QAction& action, const MenuItem& item) {
     action.setChecked(item.isChecked());
     action.setEnabled(item.isEnabled());
     action.setVisible(item.isVisible());
+    action.setStatusTip(QString::fromStdString(item.getStatusTip()));
 }
 
 } // namespace
 
 frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
     : QMainWindow(parent), form_(form), files_(this), colors_(this) {
-    setWindowTitle(QString::fromStdString(form_.caption()));
     auto* client = new ClientArea([this](int w, int h) { clientResized(w, h); });
     setCentralWidget(client);
 
@@ -86,8 +88,11 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
 
     form_.attachCanvases(canvases);
     form_.attachFrame(*this, files_, colors_);
-    resize(frmTolvane::startUpClientWidth,
-           frmTolvane::startUpClientHeight + menuBar()->sizeHint().height());
+    // The status bar lies outside the client area, as the menu bar does.
+    statusBar()->show();
+    resize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight +
+                                               menuBar()->sizeHint().height() +
+                                               statusBar()->sizeHint().height());
     EventGuard::run([this] { form_.Form_Load(); });
 }
 
@@ -114,9 +119,12 @@ void frmTolvaneView::mirror(MenuItem& item, QMenu& menu) {
             mirror(*child, *menu.addMenu(caption));
         } else {
             QAction* action = menu.addAction(caption);
-            if (child->getShortcut() > 0) {
-                action->setShortcut(QKeySequence(Qt::Key_F1 + child->getShortcut() - 1));
+            QList<QKeySequence> keys;
+            for (const std::string& key : child->getShortcuts()) {
+                keys.append(QKeySequence::fromString(QString::fromStdString(key),
+                                                     QKeySequence::PortableText));
             }
+            action->setShortcuts(keys);
             MenuItem* model = child.get();
             showItem(*action, *model);
             model->setListener([shown = QPointer<QAction>(action)](const MenuItem& changed) {
@@ -150,6 +158,33 @@ void frmTolvaneView::showPopupMenu(Canvas& canvas, int x, int y) {
             popup_->exec(widget->mapToGlobal(QPoint(x, y)));
             return;
         }
+    }
+}
+
+void frmTolvaneView::unload() {
+    unloading_ = true;
+    close();
+}
+
+void frmTolvaneView::setTitle(const std::string& title, bool modified) {
+    setWindowTitle(QString::fromStdString(title));
+    setWindowModified(modified);
+}
+
+void frmTolvaneView::showStatus(const std::string& text) {
+    statusBar()->showMessage(QString::fromStdString(text));
+}
+
+void frmTolvaneView::closeEvent(QCloseEvent* event) {
+    bool mayClose = unloading_;
+    if (!mayClose) {
+        EventGuard::run([&] { mayClose = form_.Form_QueryUnload(); });
+    }
+    unloading_ = false;
+    if (mayClose) {
+        event->accept();
+    } else {
+        event->ignore();
     }
 }
 

@@ -32,10 +32,14 @@ public:
 
     void setMousePointer(MousePointer pointer) override;
     void showPopupMenu(Canvas& canvas, int x, int y) override;
-    void unload() override { close(); }
+    void unload() override;
+    void setTitle(const std::string& title, bool modified) override;
+    void showStatus(const std::string& text) override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // Closing the window with unsaved work asks first; Cancel keeps the window.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void clientResized(int width, int height);
@@ -49,4 +53,6 @@ private:
     SceneTreeView* tree_ = nullptr;
     QMenu* popup_ = nullptr;
     bool busy_ = false;
+    // Set by unload: the logic has settled unsaved work already.
+    bool unloading_ = false;
 };

@@ -65,7 +65,7 @@ TEST(MacroSyntax, SaysWhyALineIsNoAction) {
         {"menu", "missing menu captions"},
         {"dialog \"X\" check c maybe", "bad check state maybe (on or off)"},
         {"dialog \"X\" wave c", "unknown dialog action wave"},
-        {"message perhaps", "bad message answer perhaps (ok, yes or no)"},
+        {"message perhaps", "bad message answer perhaps (ok, yes, no, save, discard or cancel)"},
         {"color 16777216", "bad colour 16777216"},
         {"file \"\"", "empty path (write cancel for a cancelled file dialog)"},
         {"input \"open", "a quoted text has no closing quote"},

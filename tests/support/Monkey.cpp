@@ -28,6 +28,8 @@ const std::vector<std::string> hostileTexts = {"",
                                                "Scale(2,2,2)",
                                                "\"quoted\"\n\t",
                                                std::string(300, '9')};
+const std::vector<MessageAnswer> unsavedWorkAnswers = {MessageAnswer::Save, MessageAnswer::Discard,
+                                                       MessageAnswer::Cancel};
 const std::vector<int> keys = {13, 67, 69, 13, 67, 69, 0, 27, 46, 65, 112};
 
 // The leaves of the menu under item that a user can choose, by caption path.
@@ -81,10 +83,14 @@ std::optional<MacroAction> Monkey::next(const Waiting& waiting) {
     case Waiting::Kind::Dialog:
         return dialogAction(*waiting.dialog);
     case Waiting::Kind::Message:
-        if (waiting.buttons == MessageButtons::Ok) {
+        switch (waiting.buttons) {
+        case MessageButtons::Ok:
             return macro::Message{MessageAnswer::Ok};
+        case MessageButtons::SaveDiscardCancel:
+            return macro::Message{oneOf(unsavedWorkAnswers)};
+        default:
+            return macro::Message{chance(50) ? MessageAnswer::Yes : MessageAnswer::No};
         }
-        return macro::Message{chance(50) ? MessageAnswer::Yes : MessageAnswer::No};
     case Waiting::Kind::Input:
         if (chance(15)) {
             return macro::Input{std::nullopt};

@@ -8,7 +8,8 @@
 #include <vector>
 
 // Prompts that answer from queues the test fills and record every question asked.
-// Unscripted message boxes answer Ok (Yes/No boxes: No); unscripted input boxes cancel.
+// Unscripted message boxes give the answer that changes nothing (refusal); unscripted input
+// boxes cancel.
 // While one exists it is the program's active prompts.
 class ScriptedPrompts : public Prompts {
 public:
@@ -32,7 +33,7 @@ public:
     MessageAnswer messageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons) override {
         messages_.push_back(Message{text, title, icon, buttons});
-        return answers_.take(buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No);
+        return answers_.take(refusal(buttons));
     }
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) override {

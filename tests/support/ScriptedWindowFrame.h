@@ -4,6 +4,7 @@
 #include "support/AnswerQueue.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 // A window frame that records the pointers it is given and answers a pop-up menu by running
@@ -16,12 +17,25 @@ public:
             choose();
         }
     }
-    void unload() override {}
+    void unload() override { ++unloads_; }
+    void setTitle(const std::string& title, bool modified) override {
+        title_ = title;
+        modified_ = modified;
+    }
+    void showStatus(const std::string& text) override { status_ = text; }
 
     void queuePopupChoice(std::function<void()> choose) { choices_.push(std::move(choose)); }
     const std::vector<MousePointer>& pointers() const { return pointers_; }
+    int unloads() const { return unloads_; }
+    const std::string& title() const { return title_; }
+    bool modified() const { return modified_; }
+    const std::string& status() const { return status_; }
 
 private:
     std::vector<MousePointer> pointers_;
+    int unloads_ = 0;
+    std::string title_;
+    bool modified_ = false;
+    std::string status_;
     AnswerQueue<std::function<void()>> choices_;
 };
