@@ -74,64 +74,41 @@ private:
     std::string name_;
 };
 
-// The states of every face of the selected solids.
-FaceEdit::Snapshot solidFaceStates(const SelectionState& selection) {
-    FaceEdit::Snapshot states;
-    for (const auto& object : selection.selectedSolids) {
-        FaceEdit::Snapshot more = FaceEdit::capture(object->getFaces());
-        states.insert(states.end(), std::make_move_iterator(more.begin()),
-                      std::make_move_iterator(more.end()));
-    }
-    return states;
-}
-
 } // namespace
 
 void SelectedItemCommands::showSelectedProperties() {
-    // Every state a dialog may change, taken before the first dialog opens.
-    const FaceEdit::Snapshot faces = FaceEdit::capture(selection_.selectedFaces);
-    const FaceEdit::Snapshot solidFaces = solidFaceStates(selection_);
-    std::vector<WorkplaneEdit::Snapshot> workPlanes;
-    for (const auto& workPlane : selection_.selectedWorkplanes) {
-        workPlanes.push_back(WorkplaneEdit::capture(workPlane));
-    }
-    std::vector<ProfileEdit::Snapshot> profiles;
-    for (const auto& profile : selection_.selectedProfiles) {
-        profiles.push_back(ProfileEdit::capture(profile));
-    }
-    showDialogs();
+    // Each kind's states are taken just before its dialogs open and compared just after, so
+    // that an edit holds what those dialogs changed, also where a face belongs to a
+    // selected solid as well.
     PropertyChanges changes;
-    changes.add(FaceEdit::since(faces), "Face Properties");
-    changes.add(FaceEdit::since(solidFaces), "Solid Properties");
-    for (const auto& before : workPlanes) {
-        changes.add(WorkplaneEdit::since(before), "Workplane Properties");
-    }
-    for (const auto& before : profiles) {
-        changes.add(ProfileEdit::since(before), "Profile Properties");
-    }
-    changes.record(editor_.history());
-    editor_.redrawAllViewports();
-}
-
-void SelectedItemCommands::showDialogs() {
+    const FaceEdit::Snapshot faces = FaceEdit::capture(selection_.selectedFaces);
     for (const auto& face : selection_.selectedFaces) {
         frmFaceProperty dialog(dialogs_, colors_);
         dialog.initialize(face);
         dialogs_.showModal(dialog);
     }
+    changes.add(FaceEdit::since(faces), "Face Properties");
     for (const auto& object : selection_.selectedSolids) {
+        const FaceEdit::Snapshot solidFaces = FaceEdit::capture(object->getFaces());
         frmSolidProperty dialog(colors_);
         dialog.initialize(object);
         dialogs_.showModal(dialog);
+        changes.add(FaceEdit::since(solidFaces), "Solid Properties");
     }
     for (const auto& workPlane : selection_.selectedWorkplanes) {
+        const WorkplaneEdit::Snapshot before = WorkplaneEdit::capture(workPlane);
         frmWorkPlaneProperty dialog(colors_);
         dialog.initialize(workPlane);
         dialogs_.showModal(dialog);
+        changes.add(WorkplaneEdit::since(before), "Workplane Properties");
     }
     for (const auto& profile : selection_.selectedProfiles) {
+        const ProfileEdit::Snapshot before = ProfileEdit::capture(profile);
         frmProfileProperty dialog;
         dialog.initialize(profile);
         dialogs_.showModal(dialog);
+        changes.add(ProfileEdit::since(before), "Profile Properties");
     }
+    changes.record(editor_.history());
+    editor_.redrawAllViewports();
 }

@@ -35,9 +35,6 @@ public:
     void showSelectedProperties();
 
 private:
-    // The property dialogs, one after the other.
-    void showDialogs();
-
     EditorPort& editor_;
     SceneDocument& document_;
     const SelectionState& selection_;

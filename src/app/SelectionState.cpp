@@ -121,12 +121,15 @@ void SelectionState::updatePropertyMenu() {
 
 namespace {
 
-// Removes the items pred does not keep; true when it removed any.
+// Removes the items keep does not keep, clearing their selected flags (an undo may bring
+// them back, and they must not come back highlighted); true when it removed any.
 template <class Item, class Keep>
 bool keepOnly(std::vector<std::shared_ptr<Item>>& items, Keep keep) {
-    const auto gone = std::remove_if(
-        items.begin(), items.end(), [&](const std::shared_ptr<Item>& item) { return !keep(item); });
+    const auto gone = std::partition(items.begin(), items.end(), keep);
     const bool removed = gone != items.end();
+    for (auto item = gone; item != items.end(); ++item) {
+        (*item)->setSelected(false);
+    }
     items.erase(gone, items.end());
     return removed;
 }

@@ -46,9 +46,9 @@ public:
     // Solids, faces, workplanes, nodes, profiles: every selection and highlight cleared.
     void resetAllSelect() override;
     void AddSelectNode(const std::shared_ptr<TreeDisplayNode>& node, int32_t color) override;
-    // Forgets the selected items the document no longer holds (deleted, cancelled, replaced
-    // by Open or New), so that no command acts on them; the property menu follows when
-    // anything was forgotten.
+    // Forgets the selected items the document no longer holds (deleted, cancelled, undone,
+    // replaced by Open or New) and clears their selected flags, so that no command acts on
+    // them; the property menu follows when anything was forgotten.
     void forgetAllBut(const SceneDocument& document);
     // After the tree's nodes were made anew: paints the nodes of the selected items in their
     // kind's colour and remembers them instead of the nodes that are gone.

@@ -124,13 +124,23 @@ TEST(ProfileCommands, ClosingEndsTheProfileWhereItBeganOnceItHasTwoPoints) {
     ASSERT_EQ(nodes.size(), 1u); // the workplane was put in the document without its node
     EXPECT_EQ(nodes.back()->key, "r1");
     EXPECT_EQ(nodes.back()->children().size(), 5u);
+    EXPECT_EQ(three.form.history().stepCount(), 1u); // closing again is no step of its own
     const std::vector<std::shared_ptr<Profile>> opened{std::make_shared<Profile>()};
     three.document().profiles.insert(three.document().profiles.begin(), opened[0]);
+    const auto drawn = three.current();
     three.prompts.queueAnswer(MessageAnswer::Yes);
     three.choose({"&Profile", "C&ancel Profile"});
     EXPECT_EQ(three.document().profiles, opened);
     EXPECT_FALSE(three.hasNode("r1"));
     EXPECT_EQ(three.current(), nullptr);
+    // Undone, the cancel brings the profile back to its place as the current one; the close
+    // undone takes it out.
+    three.choose({"&Edit", "&Undo"});
+    EXPECT_EQ(three.document().profiles, (std::vector<std::shared_ptr<Profile>>{opened[0], drawn}));
+    EXPECT_EQ(three.current(), drawn);
+    EXPECT_EQ(three.form.history().undoName(), "Close Profile");
+    three.choose({"&Edit", "&Undo"});
+    EXPECT_EQ(three.document().profiles, opened);
 
     // Cancelled: the profile leaves the document and the tree, and is no longer current.
     Drawing cancelled(3);

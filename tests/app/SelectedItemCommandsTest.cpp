@@ -33,6 +33,10 @@ TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails
     EXPECT_EQ(node->text, "Solid 2");
     EXPECT_EQ(std::any_cast<std::shared_ptr<Transformed3d>>(node->tag),
               w.form.getDocument().solids[1]);
+    // Both solids are one step.
+    w.choose({"&Edit", "&Undo"});
+    EXPECT_TRUE(w.form.getDocument().solids.empty());
+    w.choose({"&Edit", "&Redo"});
 
     // An error while extruding ends the command, keeping the earlier solids.
     w.form.getSelection().setSelectedProfiles(
@@ -45,6 +49,8 @@ TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails
     ASSERT_EQ(w.prompts.messages().size(), 2u);
     EXPECT_EQ(w.prompts.messages()[1].text,
               "Profile is of un-extrudable shape.  Please redraw or alter profile.");
+    w.choose({"&Edit", "&Undo"}); // the solid made before the error is a step
+    EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
 }
 
 TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw) {
@@ -71,4 +77,18 @@ TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw
               (std::vector<std::string>{"Face Properties", "Solid Properties",
                                         "Workplane Properties", "Profile Properties"}));
     EXPECT_FALSE(w.canvases[3].calls().empty()); // redrawn after the last dialog
+    EXPECT_FALSE(w.form.history().canUndo());    // nothing changed
+
+    // One step for every dialog that changed something, named after the dialog.
+    const auto face = object->getFaces().front();
+    const float specular = face->SpecularK;
+    w.dialogs.queueDialog({Host::scroll("HScrollSpecK", 10), Host::press("mnuAccept")});
+    for (int i = 0; i < 3; ++i) {
+        w.dialogs.queueDialog({Host::press("mnuCancel")});
+    }
+    w.form.Form_KeyDown(13);
+    EXPECT_EQ(w.form.history().undoName(), "Face Properties");
+    w.choose({"&Edit", "&Undo"});
+    EXPECT_EQ(face->SpecularK, specular);
+    EXPECT_FALSE(w.form.history().canUndo());
 }
