@@ -1,9 +1,11 @@
 #include "qt/frmTolvaneView.h"
 
+#include "app/ListChange.h"
 #include "qt/CanvasWidget.h"
 #include "qt/DesktopKey.h"
 #include "scene/Transformed3d.h"
 #include "support/ShownWindow.h"
+#include "support/TestSolids.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -51,6 +53,8 @@ TEST(frmTolvaneView, MenuBarActsOnEveryViewportAndThePopupOnTheOneRightClicked) 
     grid->trigger();
     EXPECT_FALSE(grid->isChecked());
     EXPECT_EQ(findAction(bar, {"-view popup-"}), nullptr);
+    EXPECT_EQ(findAction(bar, {"&Edit", "&Redo"})->shortcuts(),
+              (QList<QKeySequence>{QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}));
     EXPECT_FALSE(findAction(bar, {"&Selectors", "&Property <enter>"})->isEnabled());
 
     // The pop-up runs while the press waits; its Parallel is chosen, then it closes.
@@ -112,6 +116,19 @@ TEST(frmTolvaneView, StartsAtItsClientSizeAndPassesKeysOnButModifiersAlone) {
     for (const auto& [code, heard] : keys) {
         EXPECT_EQ(desktopKeyCode(QKeyEvent(QEvent::KeyPress, code, Qt::NoModifier)), heard) << code;
     }
+}
+
+TEST(frmTolvaneView, ClosingWithUnsavedWorkAsksFirstAndCancelKeepsTheWindow) {
+    ShownWindow s;
+    SceneDocument& document = s.form.getDocument();
+    s.form.history().push("Extrude", ListChange<Transformed3d>::insert(document, makeObject(), 0));
+    EXPECT_FALSE(s.window.close()); // unanswered: Cancel
+    EXPECT_TRUE(s.window.isVisible());
+    ASSERT_EQ(s.prompts.messages().size(), 1u);
+    EXPECT_EQ(s.prompts.messages()[0].text, "Save changes to Untitled?");
+    EXPECT_TRUE(s.window.isWindowModified());
+    s.prompts.queueAnswer(MessageAnswer::Discard);
+    EXPECT_TRUE(s.window.close());
 }
 
 int main(int argc, char** argv) {
