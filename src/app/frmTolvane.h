@@ -68,17 +68,10 @@ public:
     // or nullptr.
     void setUserEventListener(UserEventListener* listener) { userEvents = listener; }
 
-    // What the command groups ask of the editor.
+    // What the command groups ask of the editor; the rest of their port is private below.
     void redrawAllViewports() override;
-    void layoutViewports() override;
     void rebuildTree() override;
-    void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) override {
-        mouse.setMouseMode(std::move(mode));
-    }
-    ClickHandleNothing& getMouseMode() const override { return mouse.getMouseMode(); }
-    int32_t getPopupViewport() const override { return mouse.getPopupViewport(); }
     UndoHistory& history() override { return undoHistory; }
-    void showStatus(const std::string& text) override;
 
     // The menu bar and the pop-up menu, with their commands bound.
     MainMenu& getMenus() { return menus; }
@@ -100,6 +93,14 @@ public:
     static constexpr int startUpClientHeight = 781;
 
 private:
+    void layoutViewports() override;
+    void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) override {
+        mouse.setMouseMode(std::move(mode));
+    }
+    ClickHandleNothing& getMouseMode() const override { return mouse.getMouseMode(); }
+    int32_t getPopupViewport() const override { return mouse.getPopupViewport(); }
+    void showStatus(const std::string& text) override;
+
     // Removes item n of its list with its node (the key given) as the step named, then
     // redraws.
     template <class Item> void removeItem(int32_t n, const std::string& key, const char* step);

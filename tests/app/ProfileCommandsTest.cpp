@@ -37,7 +37,7 @@ struct Drawing : TestWindow {
     SceneDocument& document() { return form.getDocument(); }
     std::shared_ptr<Profile> current() { return document().currentProfile; }
     bool hasNode(const std::string& key) { return form.getSceneTree().findNode(key) != nullptr; }
-    MousePointer mode() { return form.getMouseMode().getMouseIcon(); }
+    MousePointer mode() { return form.getMouse().getMouseMode().getMouseIcon(); }
 };
 
 } // namespace
@@ -59,7 +59,8 @@ TEST(ProfileCommands, ProfilesAndTheirPointsNeedOneSelectedWorkplaneAndMoveByIts
     EXPECT_EQ(messages[3].text.substr(0, 18), "No workplane was s");
     EXPECT_EQ(w.form.getDocument().currentProfile->getPointCount(), 0);
     EXPECT_TRUE(w.form.getDocument().profiles.empty());
-    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::Crosshair); // the tool stays
+    EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(),
+              MousePointer::Crosshair); // the tool stays
 
     w.form.getSelection().setSelectedWorkplanes({makeWorkPlane(1, 0.25f, 0.5f)});
     w.canvases[3].forget();

@@ -65,8 +65,8 @@ TEST(ModeCommands, BarAndPopupInstallTheChosenMode) {
         {{"&View", "&Movement", "&Rotate"}, MousePointer::SizeAll}};
     for (const auto& [path, pointer] : cases) {
         w.choose(path);
-        EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), pointer) << path.back();
+        EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), pointer) << path.back();
     }
     w.popup(3, {"&Movement", "&Zoom"});
-    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::SizeVertical);
+    EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::SizeVertical);
 }

@@ -58,10 +58,10 @@ TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
     EXPECT_EQ(w.form.getViewports().viewSpecs(1).EyeTheta, 0.0f); // only the record under the mouse
 
     w.form.getMouse().setMouseSensivity(0.0025f);
-    w.form.setMouseMode(std::make_unique<ClickHandleZoom>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleZoom>());
     drag(w, 1, 0, 0, 0, 30);
     EXPECT_NEAR(w.form.getViewports().viewSpecs(4).zoom, 225.0f, 1e-4);
-    w.form.setMouseMode(std::make_unique<ClickHandleScroll>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleScroll>());
     drag(w, 1, 0, 0, 4, -2);
     EXPECT_NEAR(w.form.getViewports().viewSpecs(4).shiftx, 5.0f, 1e-5);
     EXPECT_NEAR(w.form.getViewports().viewSpecs(4).shifty, -2.5f, 1e-5);
@@ -81,7 +81,7 @@ TEST(frmTolvane, ModesFollowTheMouseFromTheAnchorAtTheSensitivityOfTheDialog) {
 
     auto mode = std::make_unique<DragReturnsNone>();
     const auto& moveGotView = mode->moveGotView;
-    w.form.setMouseMode(std::move(mode));
+    w.form.getMouse().setMouseMode(std::move(mode));
     drag(w, 1, 10, 10, 20, 20);
     ASSERT_EQ(moveGotView.size(), 2u);
     EXPECT_TRUE(moveGotView[0]);  // no button: the copy of the record

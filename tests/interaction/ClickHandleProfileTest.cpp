@@ -132,5 +132,5 @@ TEST(ClickHandleProfile, ClicksBecomePointsWhereTheyAreSeenAndAMiddleClickCloses
     EXPECT_EQ(d.dialogs.shown(), std::vector<std::string>{"Confirm Orientation"});
     EXPECT_EQ(guess, "Clockwise");
     EXPECT_EQ(d.profile().getPointCount(), 4);
-    EXPECT_EQ(d.form.getMouseMode().getMouseIcon(), MousePointer::Default);
+    EXPECT_EQ(d.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::Default);
 }

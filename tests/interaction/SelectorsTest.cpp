@@ -62,7 +62,7 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
         w.document().workPlanes.push_back(workPlane);
         w.form.getSceneTree().addWorkplaneNode(workPlane, "Workplane");
     }
-    w.form.setMouseMode(std::make_unique<ClickHandleWorkPlaneSelector>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleWorkPlaneSelector>());
     w.clickAt(isometric, 0.1f, 0.2f, 0);
 
     EXPECT_TRUE(w.document().workPlanes[0]->isSelected());
@@ -71,14 +71,14 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     EXPECT_EQ(w.node("w2").BackColor, 65535);
     EXPECT_TRUE(w.prompts.messages().empty());
     EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
-    EXPECT_EQ(w.form.getMouseMode().getMouseIcon(), MousePointer::Crosshair);
+    EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::Crosshair);
 }
 
 TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     Window w;
     const auto upper = w.addSolid(makeCube(1), true);
     const auto lower = w.addSolid(makeCube(1, 0, -4, 0), true);
-    w.form.setMouseMode(std::make_unique<ClickHandleFaceSelector>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleFaceSelector>());
     const auto upperTop = upper->getFaces()[4]; // +y, face 5
     const auto lowerTop = lower->getFaces()[4];
 
@@ -107,7 +107,7 @@ TEST(Selectors, ASolidUnderTheClickSeveralTimesIsSelectedOnce) {
     Window w;
     const auto object = w.addSolid(twoStackedSquares(), true);
     const auto cube = w.addSolid(makeCube(0.3f, 2, 0, 0), false);
-    w.form.setMouseMode(std::make_unique<ClickHandleSolidSelector>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleSolidSelector>());
     w.clickAt(top, 0.05f, 1, 0.1f);
     EXPECT_TRUE(w.prompts.messages().empty());
     EXPECT_TRUE(object->isSelected());
@@ -133,7 +133,7 @@ TEST(Selectors, AProfileEnclosingTheClickIsSelectedAndPaintedMagenta) {
     }
     w.document().profiles.push_back(profile);
     w.form.getSceneTree().addProfileNode(profile, "Profile");
-    w.form.setMouseMode(std::make_unique<ClickHandleProfileSelector>());
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleProfileSelector>());
     w.clickAt(isometric, 0.2f, 0, 0.3f);
 
     EXPECT_TRUE(profile->isSelected());

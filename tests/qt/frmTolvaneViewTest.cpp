@@ -91,7 +91,7 @@ TEST(frmTolvaneView, KeysAndMouseReachTheWindowAndAFailingCommandIsReported) {
     EXPECT_EQ(viewport.cursor().shape(), Qt::SizeAllCursor);
 
     s.form.getDocument().solids.push_back(std::make_shared<Transformed3d>());
-    s.form.setMouseMode(std::make_unique<FailingMode>());
+    s.form.getMouse().setMouseMode(std::make_unique<FailingMode>());
     sendMouse(viewport, QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton, Qt::LeftButton);
     ASSERT_EQ(s.prompts.messages().size(), 1u);
     EXPECT_EQ(s.prompts.messages()[0].text, "The command could not be completed: no memory left");
