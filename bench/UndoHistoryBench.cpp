@@ -90,6 +90,33 @@ void BM_UndoHistoryMemory(benchmark::State& state) {
 }
 BENCHMARK(BM_UndoHistoryMemory)->Iterations(1);
 
+// What the history would keep of one Solid Properties change of the large solid: every
+// face's coefficients changed (its colour), captured before and compared after as the
+// command does. Timed: the capture, the change and the comparison. Not pushed, so that the
+// history the other benchmarks undo stays as it is.
+void BM_UndoSolidEditMemory(benchmark::State& state) {
+    MillionFaceEditor& e = editor();
+    const auto faces = e.large->getFaces();
+    size_t stepBytes = 0;
+    for (auto _ : state) {
+        const FaceEdit::Snapshot before = FaceEdit::capture(faces);
+        for (const auto& face : faces) {
+            face->DiffuseKg = 0.3f;
+        }
+        const auto edit = FaceEdit::since(before);
+        stepBytes = edit->byteSize();
+        state.PauseTiming();
+        edit->undo(e.form.getDocument());
+        state.ResumeTiming();
+    }
+    const size_t solidBytes = MemoryBytes::of(*e.large);
+    state.counters["stepBytes"] = static_cast<double>(stepBytes);
+    state.counters["solidBytes"] = static_cast<double>(solidBytes);
+    state.counters["stepPercent"] =
+        100.0 * static_cast<double>(stepBytes) / static_cast<double>(solidBytes);
+}
+BENCHMARK(BM_UndoSolidEditMemory)->Unit(benchmark::kMillisecond);
+
 // One undo (back:1) or redo (back:0) of the newest face edit (step:0) or extrusion (step:1).
 // The move the other way, which puts the document back for the next iteration, is not
 // timed. part:0 is the history alone; part:1 the history and the tree rebuild, all that an
