@@ -191,6 +191,8 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
         {"render " + scene_ + " -o " + at("out.jpg"),
          cannot("output file", "out.jpg", " must end in .png, .bmp or .svg"), 2},
         {"paint " + scene_, "korvan-cli: unknown command 'paint' (try --help)\n", 2},
+        {extrude + " --length abc",
+         "korvan-cli: Invalid Extrusion Length.  Value must be present and numeric.\n"},
         {extrude + " --transform 'Rotate(0,\x80,1)'",
          "korvan-cli: Invalid Additional Transformation Rotate(0,?,1).  Its three values must be "
          "present and numeric.\n"},
