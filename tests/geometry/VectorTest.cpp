@@ -1,4 +1,3 @@
-#include "geometry/Vector2D.h"
 #include "geometry/Vector3D.h"
 #include "support/ScriptedPrompts.h"
 
@@ -78,14 +77,4 @@ TEST(Vector3D, VectorsAlongTheYAxisAndZeroAreReportedAndKeepTheirAngles) {
     zero.normalize();
     expectOneMessage(prompts, "Vector 3D Unable to Normalize!", "Vector3D Normalization Error");
     EXPECT_EQ(zero.toString(), "0, 0.5, 0.25");
-}
-
-TEST(Vector2D, AngleIgnoresTheQuadrantOfX) {
-    Vector2D v;
-    v.initializeXY(-1, 0);
-    EXPECT_EQ(v.getAngle(), 0.0f);
-    v.initializeXY(0.005f, -3);
-    EXPECT_EQ(v.getAngle(), static_cast<float>(-3.14159265 / 2));
-    v.initializeXY(3, 4);
-    EXPECT_FLOAT_EQ(v.getAngle(), static_cast<float>(std::atan(4.0 / 3.0)));
 }

@@ -1,4 +1,3 @@
-#include "geometry/CPoint3D.h"
 #include "interaction/ClickHandleFaceSelector.h"
 #include "interaction/ClickHandleProfileSelector.h"
 #include "interaction/ClickHandleSolidSelector.h"
@@ -124,13 +123,7 @@ TEST(Selectors, ASolidUnderTheClickSeveralTimesIsSelectedOnce) {
 
 TEST(Selectors, AProfileEnclosingTheClickIsSelectedAndPaintedMagenta) {
     Window w;
-    auto profile = std::make_shared<Profile>();
-    for (const auto& [x, z] :
-         {std::pair{-1.0f, -1.0f}, {1.0f, -1.0f}, {1.0f, 1.0f}, {-1.0f, 1.0f}}) {
-        PointRecord record;
-        record.coord = Point4{x, 0, z, 1};
-        profile->addPointRecord(record);
-    }
+    const auto profile = makeProfile({{-1, 0, -1, 1}, {1, 0, -1, 1}, {1, 0, 1, 1}, {-1, 0, 1, 1}});
     w.document().profiles.push_back(profile);
     w.form.getSceneTree().addProfileNode(profile, "Profile");
     w.form.getMouse().setMouseMode(std::make_unique<ClickHandleProfileSelector>());

@@ -1,7 +1,6 @@
 #include "modelling/frmExtrude.h"
 
 #include "app/ViewportSet.h"
-#include "geometry/CPoint3D.h"
 #include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
 #include "scene/Profile.h"
@@ -10,6 +9,7 @@
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
+#include "support/TestSolids.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -36,26 +36,13 @@ public:
     ViewportSet viewports;
 };
 
-// A closed profile; its last stored point is its first point object again.
-std::shared_ptr<Profile> closedProfile(const std::vector<Point4>& corners) {
-    auto profile = std::make_shared<Profile>();
-    for (const Point4& corner : corners) {
-        auto point = std::make_shared<CPoint3D>();
-        point->setRecord({corner, {}, {}});
-        profile->addCPoint(point);
-    }
-    profile->addCPoint(profile->getCPoint(1));
-    return profile;
-}
-
 // A square standing on a corner in the plane z = 0, normal +z: 5 stored points, 4 corners.
 struct frmExtrudeTest : ::testing::Test {
     ScriptedPrompts prompts;
     Host dialogs;
     ScriptedColorChooser colors;
     PreviewViewports viewports;
-    std::shared_ptr<Profile> profile =
-        closedProfile({{0, 0, 0, 1}, {1, 1, 0, 1}, {0, 2, 0, 1}, {-1, 1, 0, 1}});
+    std::shared_ptr<Profile> profile = makeDiamondProfile();
     frmExtrude form{dialogs, colors, viewports};
 
     void SetUp() override { form.initialize(profile); }
@@ -144,7 +131,7 @@ TEST_F(frmExtrudeTest, BadInputIsReportedAndRefusesTheExtrusion) {
         prompts.forget();
         frmExtrude dialog(dialogs, colors, viewports);
         const bool big = std::string(subdivisions) == "6250";
-        dialog.initialize(big ? closedProfile(corners) : profile);
+        dialog.initialize(big ? makeProfile(corners, true) : profile);
         dialog.setChecked("chkCapEnds", caps);
         dialog.typeText("txtExtrusionLength", length);
         dialog.typeText("txtIncrements", subdivisions);
@@ -168,7 +155,7 @@ TEST_F(frmExtrudeTest, BadInputIsReportedAndRefusesTheExtrusion) {
 TEST_F(frmExtrudeTest, AProfileWithoutANormalOrNoProfileClosesTheDialog) {
     // The last corner lies on the first edge: the two edges at the first point are parallel.
     const std::tuple<std::shared_ptr<Profile>, std::string, std::string> rows[] = {
-        {closedProfile({{0, 0, 0, 1}, {2, 0, 0, 1}, {2, 1, 0, 1}, {1, 0, 0, 1}}),
+        {makeProfile({{0, 0, 0, 1}, {2, 0, 0, 1}, {2, 1, 0, 1}, {1, 0, 0, 1}}, true),
          "Profile is of un-extrudable shape.  Please redraw or alter profile.",
          "Unable to Extrude Profile"},
         {nullptr,

@@ -62,7 +62,7 @@ TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAroundAndKeepTheMovedPointSelected)
         EXPECT_EQ(shown(), names);
         EXPECT_EQ(dialog.listPointIndex.ListIndex, selected);
     }
-    EXPECT_TRUE(prompts.inputPrompts().empty());
+    EXPECT_TRUE(prompts.inputBoxes().empty());
     // The working list reaches the profile only on Accept.
     EXPECT_EQ(profile->getPoints(), (CPointList{a, b, c}));
 }

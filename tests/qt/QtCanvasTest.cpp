@@ -96,10 +96,7 @@ TEST(QtCanvas, EveryChangeOfStyleAndColourTakesEffectAndReadingTheImageEndsThePa
     const int right = 10 + canvas.textWidth(text), bottom = 50 + canvas.textHeight();
     EXPECT_EQ(census(canvas, 10, 50, right, bottom).size(), 2u);
     EXPECT_GT(census(canvas, right - 3, 50, right, bottom)[White], 0);
-    EXPECT_EQ(census(canvas, 0, 40, 100, 50).size(), 1u);
-    EXPECT_EQ(census(canvas, 0, 40, 10, 70).size(), 1u);
-    EXPECT_EQ(census(canvas, right, 40, 100, 70).size(), 1u);
-    EXPECT_EQ(census(canvas, 0, bottom, 100, 70).size(), 1u);
+    EXPECT_EQ(census(canvas, 0, 40, 100, 70)[White], census(canvas, 10, 50, right, bottom)[White]);
 }
 
 TEST(QtCanvas, StretchBlitOrScalesAndCombines) {

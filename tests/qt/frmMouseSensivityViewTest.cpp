@@ -17,7 +17,6 @@ TEST(frmMouseSensivityView, TheBarMovesTheWayItIsDrawn) {
     EXPECT_EQ(bar.value(), 600);
     bar.setValue(751);
     EXPECT_EQ(form.HScroll1.Value, 249);
-    EXPECT_EQ(form.lblSens.Caption, "Sensivity: 75.1%");
     key(bar, Qt::Key_Home);
     bar.triggerAction(QAbstractSlider::SliderSingleStepAdd); // an arrow: 1 %
     EXPECT_EQ(form.lblSens.Caption, "Sensivity: 1%");

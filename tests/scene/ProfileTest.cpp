@@ -55,13 +55,10 @@ TEST(Profile, PointsAreSharedAndOnlyReportedOnceThereIsASegment) {
 }
 
 TEST(Profile, ProjectsDrawsInTheSelectionColourAndHitTestsTheClosedPolyline) {
-    Profile profile;
-    for (const auto& [x, y] : {std::pair{1.0f, 1.0f}, {2.0f, 1.0f}, {2.0f, 2.0f}, {1.0f, 2.0f}}) {
-        profile.addPointRecord(recordAt(x, y));
-    }
-    profile.addCPoint(profile.getCPoint(1));
-    profile.ApplyFull(canvasLayout(10.25f, 0, 0));
-    const auto region = profile.createRegion(canvasLayout(10.25f, 0, 0));
+    const auto profile =
+        makeProfile({{1, 1, 0, 1}, {2, 1, 0, 1}, {2, 2, 0, 1}, {1, 2, 0, 1}}, true);
+    profile->ApplyFull(canvasLayout(10.25f, 0, 0));
+    const auto region = profile->createRegion(canvasLayout(10.25f, 0, 0));
     EXPECT_TRUE(region->inRegion(15, 15));
     EXPECT_FALSE(region->inRegion(5, 5));
 
@@ -76,9 +73,9 @@ TEST(Profile, ProjectsDrawsInTheSelectionColourAndHitTestsTheClosedPolyline) {
                                                      {false, false, 0}};
     for (const auto& [selected, visible, colour] : cases) {
         canvas.forget();
-        profile.setSelected(selected);
-        profile.setVisible(visible);
-        profile.draw(canvas, 0, 100, 255);
+        profile->setSelected(selected);
+        profile->setVisible(visible);
+        profile->draw(canvas, 0, 100, 255);
         const auto& calls = canvas.calls();
         ASSERT_EQ(calls.size(), visible ? 5u : 0u);
         for (size_t i = 0; i < calls.size(); ++i) {
@@ -89,6 +86,6 @@ TEST(Profile, ProjectsDrawsInTheSelectionColourAndHitTestsTheClosedPolyline) {
         EXPECT_EQ(canvas.foreColor(), 1);
     }
     // A hidden profile keeps its last projection.
-    profile.ApplyFull(canvasLayout(1, 0, 0));
-    EXPECT_EQ(profile.getPointRecord(3).trans, (Point4{20.5f, 20.5f, 0, 1}));
+    profile->ApplyFull(canvasLayout(1, 0, 0));
+    EXPECT_EQ(profile->getPointRecord(3).trans, (Point4{20.5f, 20.5f, 0, 1}));
 }

@@ -12,5 +12,5 @@ std::vector<RecordingCanvas::Call> RecordingCanvas::polygons() const {
 
 void RecordingCanvas::record(Kind kind, std::vector<CanvasPoint> points, std::string text) {
     calls_.push_back(Call{kind, std::move(points), std::move(text), fillStyle(), drawStyle(),
-                          foreColor(), fillColor(), backColor()});
+                          foreColor(), fillColor()});
 }

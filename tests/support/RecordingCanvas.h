@@ -18,7 +18,6 @@ public:
         int drawStyle;
         int32_t foreColor;
         int32_t fillColor;
-        int32_t backColor;
     };
 
     explicit RecordingCanvas(int width = 400, int height = 300) : width_(width), height_(height) {}

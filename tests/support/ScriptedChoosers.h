@@ -30,19 +30,13 @@ private:
     std::vector<Request> requests_;
 };
 
-// A colour chooser that answers from a queue (cancelling with -1 when it runs dry) and
-// counts its calls.
+// A colour chooser that answers from a queue, cancelling with -1 when it runs dry.
 class ScriptedColorChooser : public ColorChooser {
 public:
     void queueAnswer(int32_t color) { answers_.push(color); }
-    int calls() const { return calls_; }
 
-    int32_t chooseColor() override {
-        ++calls_;
-        return answers_.take(-1);
-    }
+    int32_t chooseColor() override { return answers_.take(-1); }
 
 private:
     AnswerQueue<int32_t> answers_;
-    int calls_ = 0;
 };

@@ -33,15 +33,19 @@ std::shared_ptr<WorkPlane> makeWorkPlane(float size, float xRotation, float yRot
     return workPlane;
 }
 
-std::shared_ptr<Profile> makeDiamondProfile() {
+std::shared_ptr<Profile> makeProfile(const std::vector<Point4>& corners, bool closed) {
     auto profile = std::make_shared<Profile>();
-    for (const auto& [x, y] : {std::pair{0.0f, 0.0f}, {1.0f, 1.0f}, {0.0f, 2.0f}, {-1.0f, 1.0f}}) {
-        PointRecord record;
-        record.coord = Point4{x, y, 0.0f, 1.0f};
-        profile->addPointRecord(record);
+    for (const Point4& corner : corners) {
+        profile->addPointRecord({corner, {}, {}});
     }
-    profile->addCPoint(profile->getCPoint(1));
+    if (closed) {
+        profile->addCPoint(profile->getCPoint(1));
+    }
     return profile;
+}
+
+std::shared_ptr<Profile> makeDiamondProfile() {
+    return makeProfile({{0, 0, 0, 1}, {1, 1, 0, 1}, {0, 2, 0, 1}, {-1, 1, 0, 1}}, true);
 }
 
 Matrix4 canvasLayout(float scale, float dx, float dy) {

@@ -7,6 +7,7 @@
 #include "scene/WorkPlane.h"
 
 #include <memory>
+#include <vector>
 
 // A cube of half-size h around (cx, cy, cz) with every face listed counter-clockwise as
 // seen from outside, so that its normals point outwards.
@@ -19,8 +20,10 @@ std::shared_ptr<Transformed3d> makeObject(std::shared_ptr<Solid3d> solid = makeC
 std::shared_ptr<WorkPlane> makeWorkPlane(float size, float xRotation, float yRotation,
                                          float offset = 0, int32_t color = 0);
 
-// A closed square standing on a corner in the plane z = 0: (0, 0), (1, 1), (0, 2), (-1, 1),
-// then its first point object again.
+// A profile through the corners; a closed one stores its first point object again last.
+std::shared_ptr<Profile> makeProfile(const std::vector<Point4>& corners, bool closed = false);
+
+// A closed square standing on a corner in the plane z = 0: (0, 0), (1, 1), (0, 2), (-1, 1).
 std::shared_ptr<Profile> makeDiamondProfile();
 
 // Maps model points straight onto the canvas: x and y scaled by `scale` and moved by
