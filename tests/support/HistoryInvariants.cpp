@@ -48,22 +48,21 @@ std::string HistoryInvariants::check() {
         }
         states_[done_] = bytes;
     } else {
-        // Steps added: the history's growth, after the steps that could be redone went.
-        const bool hadRedo = done_ + 1 < states_.size();
-        const size_t added = hadRedo ? (history.canRedo() ? 0 : history.stepCount() - done_)
-                                     : history.stepCount() - (states_.size() - 1);
+        // A new step drops the steps that could be redone, so the history grows from done_.
+        const bool redoLeft = done_ + 1 < states_.size() && history.canRedo();
+        const size_t added =
+            !redoLeft && history.stepCount() > done_ ? history.stepCount() - done_ : 0;
         if (added == 0 && states_[done_] && *states_[done_] != bytes) {
             broken = "the saved bytes changed without a step";
         }
         if (added > 0) {
             states_.resize(done_ + 1);
-            states_.resize(done_ + added);
             if (clean_ && *clean_ > done_) {
                 clean_.reset();
             }
             done_ += added;
+            states_.resize(done_ + 1);
         }
-        states_.resize(std::max(states_.size(), done_ + 1));
         states_[done_] = bytes;
     }
     if (said("Saved ")) {
