@@ -6,6 +6,7 @@
 #include "macro/MacroFile.h"
 #include "macro/MacroWriter.h"
 #include "support/DocumentInvariants.h"
+#include "support/HistoryInvariants.h"
 #include "support/TestScale.h"
 
 #include <cstdlib>
@@ -23,12 +24,12 @@ long fromEnvironment(const char* name, long fallback) {
     return value != nullptr ? std::strtol(value, nullptr, 10) : fallback;
 }
 
-// Plays the monkey of one seed in an editor without a screen, checking the document after
-// every action of the window, then, when asked, replays the macro it played in an empty
-// sandbox, though the files it saved are still where it was made. The macro is kept when asked, and
-// always when something went wrong (an exception got out, a line did not fit, an invariant broke);
-// the failure names it. Each seed saves its files in a folder of its own, which it starts
-// empty, so that its macro replays alike in any empty sandbox.
+// Plays the monkey of one seed in an editor without a screen, checking the document and its
+// undo history after every action of the window, then, when asked, replays the macro it played in
+// an empty sandbox, though the files it saved are still where it was made. The macro is kept when
+// asked, and always when something went wrong (an exception got out, a line did not fit, an
+// invariant broke); the failure names it. Each seed saves its files in a folder of its own, which
+// it starts empty, so that its macro replays alike in any empty sandbox.
 std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool keep,
                        bool replay) {
     const fs::path files = folder / ("monkey-" + std::to_string(seed));
@@ -42,11 +43,19 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
         Monkey monkey(seed, actions, files.string());
         std::array<BlankCanvas, 4> canvases;
         HeadlessEditor editor(monkey, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        HistoryInvariants history(editor.form);
+        editor.player.attach(editor.form, &history);
         editor.player.echoTo(&writer);
         monkey.watch(editor.form);
         try {
             while (failure.empty() && editor.player.step()) {
                 failure = brokenInvariant(editor.form);
+                if (failure.empty()) {
+                    failure = history.check();
+                }
+                if (!failure.empty()) {
+                    failure = monkey.where() + ": " + failure;
+                }
             }
         } catch (const std::exception& error) {
             failure = error.what();

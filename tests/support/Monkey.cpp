@@ -138,6 +138,9 @@ MacroAction Monkey::windowAction() {
     if (count_ == 1) {
         return macro::Resize{between(600, 1600), between(400, 1000)};
     }
+    if (auto step = undoRun()) {
+        return *step;
+    }
     if (planned_.empty() && chance(3)) {
         plan();
     }
@@ -175,6 +178,25 @@ MacroAction Monkey::windowAction() {
         return macro::Resize{width, chance(10) ? between(0, 40) : between(150, 1000)};
     }
     return mouse();
+}
+
+std::optional<MacroAction> Monkey::undoRun() {
+    const UndoHistory& history = form_->history();
+    if (undosLeft_ == 0 && redosLeft_ == 0 && planned_.empty() && history.canUndo() && chance(4)) {
+        undosLeft_ = chance(40) ? 1000 : between(1, 6);
+        redosLeft_ = chance(50) ? 1000 : between(0, 6);
+    }
+    if (undosLeft_ > 0 && history.canUndo()) {
+        --undosLeft_;
+        return macro::Menu{false, {"&Edit", "&Undo"}};
+    }
+    undosLeft_ = 0;
+    if (redosLeft_ > 0 && history.canRedo()) {
+        --redosLeft_;
+        return macro::Menu{false, {"&Edit", "&Redo"}};
+    }
+    redosLeft_ = 0;
+    return std::nullopt;
 }
 
 float Monkey::coordinate(int size) {

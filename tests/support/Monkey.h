@@ -13,10 +13,11 @@ class frmTolvane;
 
 // A user who does random but plausible things, the same things for the same seed: chooses
 // enabled menu items (never Exit), clicks, drags and moves on the viewports shown, in them
-// and outside, presses keys, clicks and deletes tree nodes, resizes the window, and inside
-// dialogs types sensible and hostile texts, ticks boxes, picks lines, moves scroll bars and
-// presses buttons, closing every dialog before long. It answers message and input boxes,
-// and the file dialog with files it saved earlier in its folder, missing files and bad names.
+// and outside, undoes and redoes runs of steps (every step, often), presses keys, clicks and
+// deletes tree nodes, resizes the window, and inside dialogs types sensible and hostile texts,
+// ticks boxes, picks lines, moves scroll bars and presses buttons, closing every dialog before
+// long. It answers message and input boxes, and the file dialog with files it saved earlier in its
+// folder, missing files and bad names.
 class Monkey : public UserSource {
 public:
     // actions: how many actions of the window it plays before it stops; folder: where the
@@ -37,6 +38,8 @@ private:
     }
 
     MacroAction windowAction();
+    // Now and then a run of undos, then of redos, each as long as the history allows.
+    std::optional<MacroAction> undoRun();
     // Sometimes the monkey means something: it plans a profile on a workplane, closed and
     // extruded, or a new workplane, as a user would go about it.
     void plan();
@@ -60,4 +63,6 @@ private:
     bool filling_ = false;
     std::deque<MacroAction> planned_;
     int heldButton_ = 0;
+    int undosLeft_ = 0;
+    int redosLeft_ = 0;
 };
