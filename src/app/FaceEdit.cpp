@@ -1,26 +1,17 @@
 #include "app/FaceEdit.h"
 
+#include "app/FaceCoefficients.h"
 #include "app/SameBits.h"
 #include "scene/Face3d.h"
 
 namespace {
 
 FaceEdit::State stateOf(const Face3d& face) {
-    return FaceEdit::State{{face.AmbientKr, face.AmbientKg, face.AmbientKb, face.DiffuseKr,
-                            face.DiffuseKg, face.DiffuseKb, face.SpecularK, face.SpecularN},
-                           face.getIndices()};
+    return FaceEdit::State{FaceCoefficients::of(face), face.getIndices()};
 }
 
 void restore(Face3d& face, const FaceEdit::State& state) {
-    const auto& k = state.coefficients;
-    face.AmbientKr = k[0];
-    face.AmbientKg = k[1];
-    face.AmbientKb = k[2];
-    face.DiffuseKr = k[3];
-    face.DiffuseKg = k[4];
-    face.DiffuseKb = k[5];
-    face.SpecularK = k[6];
-    face.SpecularN = k[7];
+    FaceCoefficients::write(face, state.coefficients);
     face.SetPoints(state.indices);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/DocumentCommand.h"
+#include "app/FaceCoefficients.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -20,7 +20,7 @@ public:
     // What a dialog may change of one face: the ambient, diffuse and specular coefficients,
     // and the corners.
     struct State {
-        std::array<float, 8> coefficients{};
+        FaceCoefficients::Set coefficients{};
         std::vector<int32_t> indices;
     };
     struct Captured {

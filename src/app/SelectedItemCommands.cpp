@@ -8,6 +8,7 @@
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/SolidEdit.h"
 #include "app/UndoHistory.h"
 #include "app/WorkplaneEdit.h"
 #include "modelling/frmExtrude.h"
@@ -89,11 +90,11 @@ void SelectedItemCommands::showSelectedProperties() {
     }
     changes.add(FaceEdit::since(faces), "Face Properties");
     for (const auto& object : selection_.selectedSolids) {
-        const FaceEdit::Snapshot solidFaces = FaceEdit::capture(object->getFaces());
+        const SolidEdit::Snapshot before = SolidEdit::capture(*object);
         frmSolidProperty dialog(colors_);
         dialog.initialize(object);
         dialogs_.showModal(dialog);
-        changes.add(FaceEdit::since(solidFaces), "Solid Properties");
+        changes.add(SolidEdit::since(before, dialog.reversedFaces()), "Solid Properties");
     }
     for (const auto& workPlane : selection_.selectedWorkplanes) {
         const WorkplaneEdit::Snapshot before = WorkplaneEdit::capture(workPlane);

@@ -27,6 +27,7 @@ void frmSolidProperty::mnuAccept_Click() {
         Transformed3d& object = *object_;
         surface.applyTo(object, false);
         if (OrientSwitch.Value) {
+            reversedFaces_ = true;
             for (const auto& face : object.getFaces()) {
                 face->switchIndexOrientation();
             }

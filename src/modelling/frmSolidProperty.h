@@ -32,6 +32,11 @@ public:
     void mnuAccept_Click();
     void mnuCancel_Click();
 
+    // Whether Accept reversed the corners of every face (Switch Orientation ticked). A box
+    // ticked and then cancelled reversed nothing.
+    bool reversedFaces() const { return reversedFaces_; }
+
 private:
     std::shared_ptr<Transformed3d> object_;
+    bool reversedFaces_ = false;
 };

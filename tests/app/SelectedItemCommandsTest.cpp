@@ -91,4 +91,16 @@ TEST(SelectedItemCommands, PropertiesOpenFacesSolidsWorkplanesProfilesThenRedraw
     w.choose({"&Edit", "&Undo"});
     EXPECT_EQ(face->SpecularK, specular);
     EXPECT_FALSE(w.form.history().canUndo());
+
+    // Switch Orientation accepted: Undo turns every face back.
+    const std::vector<int32_t> corners = face->getIndices();
+    w.dialogs.queueDialog({Host::press("mnuCancel")});
+    w.dialogs.queueDialog({Host::check("OrientSwitch", true), Host::press("mnuAccept")});
+    for (int i = 0; i < 2; ++i) {
+        w.dialogs.queueDialog({Host::press("mnuCancel")});
+    }
+    w.form.Form_KeyDown(13);
+    EXPECT_EQ(w.form.history().undoName(), "Solid Properties");
+    w.choose({"&Edit", "&Undo"});
+    EXPECT_EQ(face->getIndices(), corners);
 }

@@ -3,6 +3,7 @@
 #include "app/FaceEdit.h"
 #include "app/ListChange.h"
 #include "app/ProfileEdit.h"
+#include "app/SolidEdit.h"
 #include "app/WorkplaneEdit.h"
 #include "geometry/CPoint3D.h"
 #include "support/TestSolids.h"
@@ -165,6 +166,44 @@ TEST(FaceEdit, KeepsOnlyTheChangedFacesAndRestoresThemExactly) {
     one->redo(document);
     EXPECT_EQ(face.DiffuseKg, 0.5f);
     EXPECT_EQ(face.NumPts, 3);
+}
+
+TEST(SolidEdit, RestoresEveryFaceAndTheCornerOrderAndSeesNoChangeAsNone) {
+    SceneDocument document;
+    const auto object = makeObject();
+    const FaceList& faces = object->getSolid()->faces;
+    // Three sets in turn, one differing from the next only in the sign of a zero.
+    for (size_t i = 0; i < faces.size(); ++i) {
+        faces[i]->DiffuseKg = i % 3 == 0 ? 0.25f : 0.0f;
+        faces[i]->SpecularN = i % 3 == 1 ? -0.0f : 0.0f;
+    }
+    const std::vector<int32_t> corners = faces[0]->getIndices();
+    auto before = SolidEdit::capture(*object);
+    EXPECT_EQ(SolidEdit::since(before, false), nullptr);
+    const auto turned = SolidEdit::since(before, true);
+    object->setSpecularK(0.5f); // the three sets stay three
+    for (const auto& face : faces) {
+        face->switchIndexOrientation();
+    }
+    const auto edit = SolidEdit::since(before, true);
+    ASSERT_NE(edit, nullptr);
+
+    edit->undo(document);
+    for (size_t i = 0; i < faces.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(faces[i]->SpecularK, 0.0f);
+        EXPECT_EQ(faces[i]->DiffuseKg, i % 3 == 0 ? 0.25f : 0.0f);
+        EXPECT_EQ(std::signbit(faces[i]->SpecularN), i % 3 == 1);
+    }
+    EXPECT_EQ(faces[0]->getIndices(), corners);
+    edit->redo(document);
+    EXPECT_EQ(faces[5]->SpecularK, 0.5f);
+    EXPECT_TRUE(std::signbit(faces[4]->SpecularN));
+    EXPECT_EQ(faces[0]->getIndices(), std::vector(corners.rbegin(), corners.rend()));
+    ASSERT_NE(turned, nullptr); // a reversal alone is a change
+    turned->undo(document);
+    EXPECT_EQ(faces[0]->getIndices(), corners);
+    EXPECT_EQ(faces[5]->SpecularK, 0.5f);
 }
 
 TEST(WorkplaneEdit, EachValueMakesAnEditAndUndoRestoresThemAll) {

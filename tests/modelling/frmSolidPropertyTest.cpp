@@ -6,6 +6,7 @@
 #include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -86,6 +87,7 @@ TEST_F(frmSolidPropertyOnACube, SwitchOrientationTurnsEveryFaceOnAcceptOnly) {
         dialog.moveScrollBar("HScrollSpecN", 90);
         dialog.setChecked("OrientSwitch", true);
         dialog.press(button);
+        EXPECT_EQ(dialog.reversedFaces(), std::string(button) == "mnuAccept") << button;
     }
     EXPECT_EQ(face(0).getIndices(), (Indices{8, 7, 6, 5}));
     EXPECT_EQ(face(5).getIndices(), (Indices{5, 6, 2, 1}));
