@@ -27,7 +27,8 @@ Vertex unitNormal(const Vertex& a, const Vertex& b, const Vertex& c) {
     if (!(length > 0) || !std::isfinite(length)) {
         return {0, 0, 0};
     }
-    return {n[0] / length, n[1] / length, n[2] / length};
+    // Adding 0 turns -0 into 0, which reads better in ASCII.
+    return {n[0] / length + 0.0f, n[1] / length + 0.0f, n[2] / length + 0.0f};
 }
 
 // Calls each(a, b, c) for every triangle of the fans, in object and face order.
