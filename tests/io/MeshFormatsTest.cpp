@@ -122,7 +122,7 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
 }
 
 TEST(MeshFormats, ObjObjectsKeepTheirVerticesCornersAndMaterials) {
-    const std::string obj = "mtllib look.mtl\nv 0 0 0\nv 1 0 0\nv 1 1 0 1\n"
+    const std::string obj = "mtllib look.mtl\nv 0 0 0\nv 1 0 0\nv 1 1 0 1\nf 1 2 4\n"
                             "o first\nv 0 1 0\nusemtl red\nf 4 1 -3/1 3//2\n"
                             "o second # shares the first's vertices\nusemtl none\nf 1 2 3\n";
     const std::string mtl = "newmtl red\nKa 0.25\nKd 1 0 0\nKs 0.1 0.5 0.3\nNs 20\n";
@@ -130,11 +130,12 @@ TEST(MeshFormats, ObjObjectsKeepTheirVerticesCornersAndMaterials) {
         ObjReader::parse(obj, [&](const std::string& name) -> std::optional<std::string> {
             return name == "look.mtl" ? std::optional(mtl) : std::nullopt;
         });
-    ASSERT_EQ(objects.size(), 3u); // the vertices before the first "o" are an object too
-    EXPECT_EQ(coordinatesOf(*objects[0]), (std::vector<float>{0, 0, 0, 1, 0, 0, 1, 1, 0}));
-    EXPECT_EQ(objects[0]->getFaces().size(), 0u);
-    // "first" reaches back to vertex 1 for its face.
-    EXPECT_EQ(coordinatesOf(*objects[1]), (std::vector<float>{0, 0, 0, 1, 0, 0, 1, 1, 0, 0, 1, 0}));
+    ASSERT_EQ(objects.size(), 3u); // what comes before the first "o" is an object too
+    // The first object reaches forward to vertex 4 for its face, "first" back to vertex 1.
+    const std::vector<float> all{0, 0, 0, 1, 0, 0, 1, 1, 0, 0, 1, 0};
+    EXPECT_EQ(coordinatesOf(*objects[0]), all);
+    EXPECT_EQ(objects[0]->getFaces().at(0)->getIndices(), (std::vector<int32_t>{1, 2, 4}));
+    EXPECT_EQ(coordinatesOf(*objects[1]), all);
     const auto face = objects[1]->getFaces().at(0);
     EXPECT_EQ(face->getIndices(), (std::vector<int32_t>{4, 1, 2, 3}));
     EXPECT_EQ(face->AmbientKb, 0.25f);
