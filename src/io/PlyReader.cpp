@@ -170,12 +170,10 @@ public:
     // The fewest bytes that a value of the type takes.
     size_t leastBytes(Type type) const { return encoding_ == Encoding::Ascii ? 1 : sizeOf(type); }
 
-    // Fails unless count records of recordBytes each can still follow.
-    void requireRoom(uint64_t count, uint64_t recordBytes, const std::string& what) const {
+    // Whether count records of recordBytes each (at least 1) can still follow.
+    bool hasRoom(uint64_t count, uint64_t recordBytes) const {
         const uint64_t left = bytes_.size() - position_ + (encoding_ == Encoding::Ascii ? 1 : 0);
-        if (recordBytes == 0 || count > left / recordBytes) {
-            fail(what + " cannot fit in the rest of the file");
-        }
+        return count <= left / recordBytes;
     }
 
     double read(Type type) {
@@ -231,7 +229,9 @@ private:
         }
         const char* first = reinterpret_cast<const char*>(bytes_.data()) + start;
         const char* last = reinterpret_cast<const char*>(bytes_.data()) + position_;
-        const std::string word(first, std::min<size_t>(position_ - start, 20));
+        const auto word = [&] {
+            return std::string(first, std::min<size_t>(position_ - start, 20));
+        };
         double value = 0;
         std::from_chars_result result{};
         if (type == Type::Float32) {
@@ -248,12 +248,12 @@ private:
             const int64_t low = isSigned ? -(int64_t{1} << (bits - 1)) : 0;
             const int64_t high = (int64_t{1} << (isSigned ? bits - 1 : bits)) - 1;
             if (whole < low || whole > high) {
-                fail("'" + word + "' is out of its type's range");
+                fail("'" + word() + "' is out of its type's range");
             }
             value = static_cast<double>(whole);
         }
         if (result.ec != std::errc() || result.ptr != last) {
-            fail("'" + word + "' is not a number of its type");
+            fail("'" + word() + "' is not a number of its type");
         }
         return value;
     }
@@ -273,10 +273,11 @@ std::optional<size_t> find(const Element& element, std::string_view name) {
     return std::nullopt;
 }
 
-float storable(double value, const std::string& what) {
+// what() names the value for the message.
+template <class What> float storable(double value, What what) {
     const auto single = static_cast<float>(value);
     if (!StorableValue::value(single) || std::abs(value) > std::numeric_limits<float>::max()) {
-        fail(what + " is not a finite number");
+        fail(what() + " is not a finite number");
     }
     return single;
 }
@@ -299,7 +300,9 @@ void readElement(Body& body, const Element& element, Each each, End end) {
     for (const Property& property : element.properties) {
         recordBytes += body.leastBytes(property.countType.value_or(property.type));
     }
-    body.requireRoom(element.count, recordBytes, "element " + element.name);
+    if (recordBytes == 0 || !body.hasRoom(element.count, recordBytes)) {
+        fail("element " + element.name + " cannot fit in the rest of the file");
+    }
     for (uint64_t record = 0; record < element.count; ++record) {
         for (size_t p = 0; p < element.properties.size(); ++p) {
             const Property& property = element.properties[p];
@@ -312,8 +315,10 @@ void readElement(Body& body, const Element& element, Each each, End end) {
                 fail("a list of " + element.name + " " + std::to_string(record) +
                      " has no valid length");
             }
-            body.requireRoom(static_cast<uint64_t>(length), body.leastBytes(property.type),
-                             "a list of " + element.name + " " + std::to_string(record));
+            if (!body.hasRoom(static_cast<uint64_t>(length), body.leastBytes(property.type))) {
+                fail("a list of " + element.name + " " + std::to_string(record) +
+                     " cannot fit in the rest of the file");
+            }
             for (uint64_t i = 0; i < static_cast<uint64_t>(length); ++i) {
                 each(record, p, body.read(property.type));
             }
@@ -322,9 +327,9 @@ void readElement(Body& body, const Element& element, Each each, End end) {
     }
 }
 
-uint32_t wholeNumber(double value, const std::string& what) {
+template <class What> uint32_t wholeNumber(double value, What what) {
     if (value < 0 || value > std::numeric_limits<int32_t>::max() || std::floor(value) != value) {
-        fail(what + " is not a valid number");
+        fail(what() + " is not a valid number");
     }
     return static_cast<uint32_t>(value);
 }
@@ -345,14 +350,15 @@ void readVertices(Body& body, const Element& element, Mesh& mesh) {
     readElement(
         body, element,
         [&](uint64_t record, size_t p, double value) {
-            const std::string what = "vertex " + std::to_string(record);
+            const auto what = [&] { return "vertex " + std::to_string(record); };
             if (p == *x || p == *y || p == *z) {
                 point[p == *x ? 0 : p == *y ? 1 : 2] = storable(value, what);
             } else if (p == solid) {
-                const uint32_t number = wholeNumber(value, what + "'s korvan_solid");
+                const uint32_t number =
+                    wholeNumber(value, [&] { return what() + "'s korvan_solid"; });
                 const uint32_t previous = mesh.vertexSolids.empty() ? 0 : mesh.vertexSolids.back();
                 if (number != previous && (mesh.vertexSolids.empty() || number != previous + 1)) {
-                    fail(what + " is out of its solid's order");
+                    fail(what() + " is out of its solid's order");
                 }
                 mesh.vertexSolids.push_back(number);
             }
@@ -384,21 +390,23 @@ void readFaces(Body& body, const Element& element, Mesh& mesh) {
     readElement(
         body, element,
         [&](uint64_t record, size_t p, double value) {
-            const std::string what = "face " + std::to_string(record);
+            const auto what = [&] { return "face " + std::to_string(record); };
             if (p == *corners) {
-                mesh.corners.push_back(wholeNumber(value, what + "'s corner"));
+                mesh.corners.push_back(wholeNumber(value, [&] { return what() + "'s corner"; }));
             } else if (p == red || p == green || p == blue) {
                 const Type type = element.properties[p].type;
                 k[p == red     ? 3
                   : p == green ? 4
-                               : 5] =
-                    storable(isInteger(type) ? value / 255 : value, what + "'s colour");
+                               : 5] = storable(isInteger(type) ? value / 255 : value,
+                                               [&] { return what() + "'s colour"; });
             } else if (p == solid) {
-                faceSolid = wholeNumber(value, what + "'s korvan_solid");
+                faceSolid = wholeNumber(value, [&] { return what() + "'s korvan_solid"; });
             }
             for (size_t i = 0; i < korvan.size(); ++i) {
                 if (p == korvan[i]) {
-                    k[i] = storable(value, what + "'s " + PlyReader::coefficientNames[i].data());
+                    k[i] = storable(value, [&] {
+                        return what() + "'s " + std::string(PlyReader::coefficientNames[i]);
+                    });
                 }
             }
         },
