@@ -120,7 +120,9 @@ void MeshFiles::save(const ObjectList& objects, const std::string& path, bool as
                                                         {library, bytesOf(text.mtl)}};
             size_t failed = 0;
             error = overwriter.overwriteAll(both, failed);
-            failedFile = both[failed].target;
+            if (error) {
+                failedFile = both[failed].target;
+            }
             break;
         }
         case Format::Ply:

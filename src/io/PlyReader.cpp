@@ -275,11 +275,11 @@ std::optional<size_t> find(const Element& element, std::string_view name) {
 
 // what() names the value for the message.
 template <class What> float storable(double value, What what) {
-    const auto single = static_cast<float>(value);
-    if (!StorableValue::value(single) || std::abs(value) > std::numeric_limits<float>::max()) {
+    // Checked before the conversion, which a value beyond the floats' range would not survive.
+    if (!(std::abs(value) <= std::numeric_limits<float>::max())) {
         fail(what() + " is not a finite number");
     }
-    return single;
+    return static_cast<float>(value);
 }
 
 struct Mesh {
@@ -315,7 +315,9 @@ void readElement(Body& body, const Element& element, Each each, End end) {
                 fail("a list of " + element.name + " " + std::to_string(record) +
                      " has no valid length");
             }
-            if (!body.hasRoom(static_cast<uint64_t>(length), body.leastBytes(property.type))) {
+            // No file holds 2^32 entries of a list: the bound keeps the conversion defined.
+            if (length > std::numeric_limits<uint32_t>::max() ||
+                !body.hasRoom(static_cast<uint64_t>(length), body.leastBytes(property.type))) {
                 fail("a list of " + element.name + " " + std::to_string(record) +
                      " cannot fit in the rest of the file");
             }

@@ -111,6 +111,10 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
          "property float y\nproperty float z\nelement face 1\n"
          "property list uint int vertex_indices\nend_header\n\xff\xff\xff\x0f",
          "a list of face 0 cannot fit in the rest of the file"},
+        {"ply\nformat binary_little_endian 1.0\nelement vertex 0\nproperty float x\n"
+         "property float y\nproperty float z\nelement face 1\n"
+         "property list float int vertex_indices\nend_header\n\xca\xf2\x49\x71", // 1e30
+         "a list of face 0 cannot fit in the rest of the file"},
         {"ply\nformat ascii 1.0\nelement vertex 99999999999999999999\nend_header\n",
          "element vertex has no valid count"},
         {"ply\nformat ascii 1.0\nelement junk 1000000\nend_header\n",
