@@ -88,6 +88,11 @@ TEST(MeshFormats, PlyInEveryEncodingKeepsVertexOrderCornersAndColours) {
 TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
     const std::string cube = "ply\nformat binary_little_endian 1.0\nelement vertex 8\n"
                              "property float x\nproperty float y\nproperty float z\n";
+    // A triangle whose vertices and face carry korvan_solid.
+    const std::string numbered = "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\n"
+                                 "property float y\nproperty float z\nproperty uint korvan_solid\n"
+                                 "element face 1\nproperty list uchar int vertex_indices\n"
+                                 "property int korvan_solid\nend_header\n";
     const struct {
         std::string file;
         std::string message;
@@ -104,6 +109,11 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
         {plyTriangle + "0 0 0\n1 0 nan\n0 1 0\n3 0 1 2\n", "vertex 1 is not a finite number"},
         {plyTriangle + "0 0 0\n1 0 0\n0 1 0\n300 0 1 2\n", "'300' is out of its type's range"},
         {cube + "end_header\n", "element vertex cannot fit in the rest of the file"},
+        {numbered + "0 0 0 0\n1 0 0 1\n0 1 0 0\n3 0 1 2 0\n",
+         "vertex 2 is out of its solid's order"},
+        {numbered + "0 0 0 0\n1 0 0 0\n0 1 0 0\n3 0 1 2 1\n", "face 0 names solid 1 of 1"},
+        {numbered + "0 0 0 1\n1 0 0 1\n0 1 0 1\n3 0 1 2 0\n",
+         "vertex 0 is out of its solid's order"},
         {"ply\nformat ascii 1.0\nelement vertex 2000000000\nproperty float x\nproperty float y\n"
          "property float z\nend_header\n0 0 0\n",
          "element vertex cannot fit in the rest of the file"},
