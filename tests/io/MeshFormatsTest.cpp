@@ -1,11 +1,14 @@
 #include "geometry/CPoint3D.h"
 #include "io/MeshFormatError.h"
 #include "io/ObjReader.h"
+#include "io/ObjWriter.h"
 #include "io/PlyReader.h"
+#include "io/PlyWriter.h"
 #include "io/StlWriter.h"
 #include "scene/Transformed3d.h"
 
 #include <bit>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -211,4 +214,25 @@ TEST(MeshFormats, StlFansEachFaceFromItsFirstCornerWithTheTrianglesNormal) {
               "   vertex 0 2 0\n  endloop\n endfacet\n facet normal 0 0 1\n  outer loop\n"
               "   vertex 2 0 0\n   vertex 0 2 0\n   vertex 0 0 0\n  endloop\n endfacet\n"
               "endsolid korvan\n");
+}
+
+TEST(MeshFormats, AFaceOfMoreThan255CornersComesBackWholeFromPlyAndObj) {
+    auto object = std::make_shared<Transformed3d>();
+    object->setSolid(std::make_shared<Solid3d>());
+    std::vector<float> xyz;
+    std::vector<int32_t> corners;
+    for (int i = 0; i < 300; ++i) {
+        xyz.insert(xyz.end(), {std::cos(0.02f * static_cast<float>(i)), 0.1f, 1.0f / 3});
+        corners.push_back(300 - i);
+    }
+    object->getSolid()->addPointsArray(xyz);
+    object->getSolid()->AddFace(corners);
+    const ObjWriter::Text obj = ObjWriter::encode({object}, "a.mtl");
+    for (const ObjectList& read :
+         {PlyReader::parse(PlyWriter::encode({object})),
+          ObjReader::parse(obj.obj, [&](const std::string&) { return std::optional(obj.mtl); })}) {
+        ASSERT_EQ(read.size(), 1u);
+        EXPECT_EQ(coordinatesOf(*read[0]), xyz);
+        EXPECT_EQ(read[0]->getFaces().at(0)->getIndices(), corners);
+    }
 }
