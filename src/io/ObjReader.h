@@ -20,8 +20,8 @@
 // the library that defines it (the rest of the line is one file name): Ka the ambient triple,
 // Kd the diffuse triple, Ks the specular coefficient (the largest of its three channels), Ns
 // the specular exponent, each with one value or three (one stands for all three). A face
-// without a material, or whose material no library defines, has 0 for every coefficient, as
-// on a new extrusion; a library that cannot be read defines none. Other lines are passed over.
+// without a material, or whose material no library defines, has 0 for every coefficient (a
+// face's own defaults); a library that cannot be read defines none. Other lines are passed over.
 // Faces are numbered in file order.
 //
 // Refused, with MeshFormatError naming the line: a value that is not a number or that the mesh

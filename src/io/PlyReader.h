@@ -13,8 +13,8 @@
 // "vertex_index") of 0-based vertex numbers. Each face takes its surface coefficients from its
 // properties: the diffuse triple from "red green blue" (an integer channel divided by 255, a
 // float taken as it is) and each of the eight from the float property coefficientNames names,
-// which wins; a coefficient without either is 0, as on a new extrusion. Other elements and
-// properties are read past. Faces are numbered in file order.
+// which wins; a coefficient without either is 0 (a face's own default). Other elements
+// and properties are read past. Faces are numbered in file order.
 //
 // The whole file is one solid, unless its vertices carry "korvan_solid" (as PlyWriter writes
 // them): then the first vertex is of solid 0 and each next one of the same solid as the one
