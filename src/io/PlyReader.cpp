@@ -263,10 +263,15 @@ private:
     Encoding encoding_;
 };
 
-// The index of the property named name among the element's, if any.
-std::optional<size_t> find(const Element& element, std::string_view name) {
+// The index of the property named name among the element's, if any; it must be a list when
+// list is set, a single value otherwise.
+std::optional<size_t> find(const Element& element, std::string_view name, bool list = false) {
     for (size_t i = 0; i < element.properties.size(); ++i) {
         if (element.properties[i].name == name) {
+            if (element.properties[i].countType.has_value() != list) {
+                fail(element.name + " property " + std::string(name) + " must be " +
+                     (list ? "a list" : "a single value"));
+            }
             return i;
         }
     }
@@ -341,8 +346,7 @@ void readVertices(Body& body, const Element& element, Mesh& mesh) {
     const auto y = find(element, "y");
     const auto z = find(element, "z");
     const auto solid = find(element, "korvan_solid");
-    if (!x || !y || !z || element.properties[*x].countType || element.properties[*y].countType ||
-        element.properties[*z].countType) {
+    if (!x || !y || !z) {
         fail("the vertices have no x, y and z");
     }
     if (element.count > static_cast<uint64_t>(std::numeric_limits<int32_t>::max())) {
@@ -372,11 +376,11 @@ void readVertices(Body& body, const Element& element, Mesh& mesh) {
 }
 
 void readFaces(Body& body, const Element& element, Mesh& mesh) {
-    auto corners = find(element, "vertex_indices");
+    auto corners = find(element, "vertex_indices", true);
     if (!corners) {
-        corners = find(element, "vertex_index");
+        corners = find(element, "vertex_index", true);
     }
-    if (!corners || !element.properties[*corners].countType) {
+    if (!corners) {
         fail("the faces have no vertex_indices list");
     }
     const auto red = find(element, "red");

@@ -117,6 +117,9 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
         {numbered + "0 0 0 0\n1 0 0 0\n0 1 0 0\n3 0 1 2 1\n", "face 0 names solid 1 of 1"},
         {numbered + "0 0 0 1\n1 0 0 1\n0 1 0 1\n3 0 1 2 0\n",
          "vertex 0 is out of its solid's order"},
+        {"ply\nformat ascii 1.0\nelement vertex 1\nproperty float x\nproperty float y\n"
+         "property float z\nproperty list uchar uint korvan_solid\nend_header\n0 0 0 2 0 1\n",
+         "vertex property korvan_solid must be a single value"},
         {"ply\nformat ascii 1.0\nelement vertex 2000000000\nproperty float x\nproperty float y\n"
          "property float z\nend_header\n0 0 0\n",
          "element vertex cannot fit in the rest of the file"},
