@@ -1,4 +1,5 @@
 #include "io/FileBytes.h"
+#include "io/MeshFiles.h"
 #include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
 #include "scene/Transformed3d.h"
@@ -116,3 +117,48 @@ static void BM_MeshParse(benchmark::State& state) {
 BENCHMARK(BM_MeshSave)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_MeshLoad)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_MeshParse)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The same document in the formats of other programs, through MeshFiles as korvan-cli convert
+// uses it: writing each (an .obj with its .mtl, as one), reading .obj and .ply back.
+static const char* const meshNames[] = {"million.obj", "million.ply", "million.stl"};
+
+static void BM_MeshExport(benchmark::State& state) {
+    const ObjectList document = millionFaces();
+    BenchFolder folder;
+    const std::string file = (folder.folder / meshNames[state.range(0)]).string();
+    const MeshFiles files(PosixFileSystem::instance());
+    for (auto _ : state) {
+        try {
+            files.save(document, file, false);
+        } catch (const MeshFiles::Error&) {
+            state.SkipWithError("export failed");
+            break;
+        }
+    }
+    state.SetLabel(meshNames[state.range(0)]);
+    reportFigures(state, fs::file_size(file));
+}
+
+static void BM_MeshImport(benchmark::State& state) {
+    BenchFolder folder;
+    const std::string file = (folder.folder / meshNames[state.range(0)]).string();
+    const MeshFiles files(PosixFileSystem::instance());
+    files.save(millionFaces(), file, false);
+    for (auto _ : state) {
+        ObjectList loaded;
+        try {
+            loaded = files.open(file);
+        } catch (const MeshFiles::Error&) {
+            state.SkipWithError("import failed");
+            break;
+        }
+        state.PauseTiming();
+        loaded = {};
+        state.ResumeTiming();
+    }
+    state.SetLabel(meshNames[state.range(0)]);
+    reportFigures(state, fs::file_size(file));
+}
+
+BENCHMARK(BM_MeshExport)->DenseRange(0, 2)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_MeshImport)->DenseRange(0, 1)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -7,6 +7,7 @@
 #include "cli/SvgCanvas.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
+#include "io/MeshFiles.h"
 #include "io/PosixFileSystem.h"
 #include "io/TavrinMeshIO.h"
 #include "macro/HeadlessEditor.h"
@@ -81,6 +82,9 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
             break;
         case CliOptions::Command::Replay:
             replay(options);
+            break;
+        case CliOptions::Command::Convert:
+            convert(options);
             break;
         }
         if (!out.flush()) {
@@ -289,6 +293,27 @@ void CliApp::replay(const CliOptions& options) const {
     if (const std::error_code error = FileOverwriter(files_).overwriteAll(replacements, failed)) {
         throw CliError("cannot write " + CliError::quoted(replacements[failed].target) + ": " +
                            CliError::reason(error),
+                       CliError::failure);
+    }
+}
+
+void CliApp::convert(const CliOptions& options) const {
+    const MeshFiles meshFiles(files_);
+    ObjectList objects;
+    try {
+        objects = meshFiles.open(options.input);
+    } catch (const MeshFiles::Error& error) {
+        const bool content = error.code() == FileError::corrupt;
+        throw CliError((content ? "cannot read " : "cannot open ") +
+                           CliError::quoted(error.file()) + ": " +
+                           (*error.what() != 0 ? error.what() : CliError::reason(error.code())),
+                       CliError::failure);
+    }
+    try {
+        meshFiles.save(objects, options.output, options.ascii);
+    } catch (const MeshFiles::Error& error) {
+        throw CliError("cannot write " + CliError::quoted(error.file()) + ": " +
+                           CliError::reason(error.code()),
                        CliError::failure);
     }
 }

@@ -10,7 +10,7 @@
 #include <vector>
 
 // korvan-cli: renders or describes a mesh file headless, through the editor's own pipeline,
-// or makes one by the editor's own extrusion.
+// makes one by the editor's own extrusion, or converts meshes between formats.
 class CliApp {
 public:
     // Works on the system's own files.
@@ -31,6 +31,7 @@ private:
     // Notes the dialog shows without refusing go to err as warnings.
     void extrude(const CliOptions& options, std::ostream& err) const;
     void replay(const CliOptions& options) const;
+    void convert(const CliOptions& options) const;
     // Throws unless folder is one; option names where it came from.
     void requireFolder(const std::string& folder, const std::string& option) const;
 

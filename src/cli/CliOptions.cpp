@@ -2,6 +2,7 @@
 
 #include "cli/CliError.h"
 #include "geometry/PackedColor.h"
+#include "io/MeshFiles.h"
 #include "io/TavrinMeshIO.h"
 #include "modelling/Tokens.h"
 
@@ -132,6 +133,25 @@ CliOptions::Extrusion::Orientation parseOrientation(const std::string& value) {
     throw badValue("--mode", value, "in, out or split");
 }
 
+void checkConversion(const CliOptions& options) {
+    using Format = MeshFiles::Format;
+    const std::optional<Format> in = MeshFiles::formatOf(options.input);
+    if (!in || *in == Format::Stl) {
+        throw usageError("input file '" + options.input + "' must end in .tvm, .obj or .ply");
+    }
+    if (options.output.empty()) {
+        throw usageError("convert needs an output file: OUT.tvm, OUT.obj, OUT.ply or OUT.stl");
+    }
+    const std::optional<Format> out = MeshFiles::formatOf(options.output);
+    if (!out) {
+        throw usageError("output file '" + options.output +
+                         "' must end in .tvm, .obj, .ply or .stl");
+    }
+    if (options.ascii && *out != Format::Stl) {
+        throw usageError("--ascii applies to an .stl output only");
+    }
+}
+
 // Takes one option of render; false when arg is none of them. value() takes the option's value.
 template <class Value>
 bool parseRenderOption(const std::string& arg, Value value, CliOptions& options) {
@@ -205,21 +225,34 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         options.command = Command::Extrude;
     } else if (args[0] == "replay") {
         options.command = Command::Replay;
+    } else if (args[0] == "convert") {
+        options.command = Command::Convert;
     } else {
         throw usageError("unknown command '" + args[0] + "' (try --help)");
     }
 
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& arg = args[i];
+        const bool convert = options.command == Command::Convert;
         if (arg.size() < 2 || arg[0] != '-') {
-            if (!options.input.empty()) {
+            if (options.input.empty()) {
+                options.input = arg;
+            } else if (convert && options.output.empty()) {
+                options.output = arg;
+            } else {
                 throw usageError("unexpected argument '" + arg + "'");
             }
-            options.input = arg;
             continue;
         }
         if (options.command == Command::Info) {
             throw usageError("info takes no options, but was given '" + arg + "'");
+        }
+        if (convert) {
+            if (arg != "--ascii") {
+                throw usageError("unknown option '" + arg + "' (try --help)");
+            }
+            options.ascii = true;
+            continue;
         }
         const auto value = [&]() -> const std::string& {
             if (i + 1 >= args.size()) {
@@ -245,7 +278,12 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
     if (options.input.empty()) {
         throw usageError(extrude                              ? "no profile file given (try --help)"
                          : options.command == Command::Replay ? "no macro file given (try --help)"
-                                                              : "no scene file given (try --help)");
+                         : options.command == Command::Convert
+                             ? "no mesh file given (try --help)"
+                             : "no scene file given (try --help)");
+    }
+    if (options.command == Command::Convert) {
+        checkConversion(options);
     }
     if (options.command == Command::Render) {
         if (options.output.empty()) {
@@ -272,9 +310,11 @@ std::string CliOptions::helpText() {
        korvan-cli info SCENE.tvm
        korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
        korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR] [--sandbox DIR]
+       korvan-cli convert IN OUT [--ascii]
        korvan-cli -h | --help
 
-Draws, describes or makes Tavrin Mesh Files (.tvm) without opening the editor.
+Draws, describes, makes or converts Tavrin Mesh Files (.tvm) without opening the
+editor.
 
 Commands:
   render   Draws the file's solids the way one viewport of the editor draws them,
@@ -305,6 +345,17 @@ Commands:
            recorded. --sandbox DIR takes every file the macro names from DIR
            instead (the file of the same name in DIR), reading and writing
            nothing elsewhere.
+  convert  Reads the solids of IN (.tvm, .obj with its .mtl, or .ply) and
+           writes them to OUT (.tvm, .obj, .ply or .stl), the format chosen by
+           each name's extension in any case. Every solid keeps its points in
+           their order and its faces with their corners; .obj and .ply keep
+           each face's eight surface coefficients exactly (as materials Ka, Kd,
+           Ks, Ns in OUT.mtl, written beside OUT.obj as one with it; as float
+           face properties in .ply, beside red green blue), so that converting
+           back to .tvm gives the same file. Each .obj object ("o") and each
+           .ply file is one solid, unless the .ply was written by convert.
+           .stl (binary; --ascii for text) holds triangles only: each face is
+           fanned from its first corner.
 
 Options of render (they may come before or after SCENE.tvm):
   -o OUT         output file ending in .png, .bmp or .svg (required)
@@ -340,6 +391,9 @@ and --transform as it judges what is typed into it):
   --specular-n V     specular exponent V, 0 to 100 (default 50)
   --add-to IN.tvm    a scene whose solids come first in OUT.tvm
 
+Option of convert:
+  --ascii            write the .stl output as text
+
   -h, --help     show this text and exit
 
 The scene's name must end in .tvm and consist of printable ASCII characters,
@@ -347,8 +401,8 @@ as the editor's own file dialogs produce; so must OUT.tvm.
 
 Exit status:
   0  success
-  1  the work failed: a scene, profile or macro cannot be read (missing, not
-     a regular file, not a .tvm name, corrupt, malformed), the extrusion is
+  1  the work failed: a scene, mesh, profile or macro cannot be read (missing,
+     not a regular file, not a .tvm name, corrupt, malformed), the extrusion is
      refused (its message is the dialog's own), a macro stops, a folder given
      to --svg-dir or --sandbox is none, or an output or standard output cannot
      be written; every existing output is then left as it was

@@ -9,7 +9,7 @@
 
 // The command line of korvan-cli, parsed and checked before any file is touched.
 struct CliOptions {
-    enum class Command { Help, Render, Info, Extrude, Replay };
+    enum class Command { Help, Render, Info, Extrude, Replay, Convert };
     enum class Format { Png, Bmp, Svg };
 
     // What the extrusion dialog's controls are to hold; the texts are typed in as given, so
@@ -32,8 +32,9 @@ struct CliOptions {
     };
 
     Command command = Command::Help;
-    std::string input;   // the scene (render, info), the profile (extrude) or the macro (replay)
-    std::string output;  // render and extrude; for replay the scene to save, or ""
+    // the scene (render, info), the profile (extrude), the macro (replay) or the mesh (convert)
+    std::string input;
+    std::string output;  // render, extrude and convert; for replay the scene to save, or ""
     std::string svgDir;  // replay: where each viewport's drawing goes, or ""
     std::string sandbox; // replay: the folder every file the macro names is taken from, or ""
     Format format = Format::Png;
@@ -46,6 +47,7 @@ struct CliOptions {
     bool noBackface = false;
     bool noGrid = false;
     bool noAxes = false;
+    bool ascii = false; // convert: an .stl output in ASCII
     Extrusion extrusion;
 
     // The arguments after the program name. Throws CliError with the usage status for

@@ -1,6 +1,7 @@
 #include "io/TavrinMeshIO.h"
 
 #include "geometry/CPoint3D.h"
+#include "io/FaceCoefficients.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/FileNames.h"
@@ -8,13 +9,11 @@
 #include "io/LittleEndianReader.h"
 #include "io/LittleEndianWriter.h"
 #include "io/PosixFileSystem.h"
+#include "io/StorableValue.h"
 #include "scene/Face3d.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
-#include <array>
-#include <cmath>
-#include <limits>
 #include <new>
 #include <type_traits>
 
@@ -35,17 +34,8 @@ bool fits(const LittleEndianReader& in, int32_t count, uint64_t recordBytes,
 }
 
 // The one rule for the values of the file, kept by the writer and checked by the reader.
-bool storable(float value) {
-    return std::isfinite(value);
-}
-
-bool storableExponent(float exponent) {
-    return exponent >= std::numeric_limits<int16_t>::min() &&
-           exponent <= std::numeric_limits<int16_t>::max();
-}
-
 bool readStorable(LittleEndianReader& in, float& value) {
-    return in.readFloat32(value) && storable(value);
+    return in.readFloat32(value) && StorableValue::value(value);
 }
 
 // Walks the records of the file, checking every one, and hands them to a builder, which
@@ -98,13 +88,13 @@ template <class Builder> bool readObjects(LittleEndianReader& in, Builder& build
                 }
             }
             // In file order: the ambient triple, the diffuse triple, SpecularK, SpecularN.
-            std::array<float, 8> coefficients;
+            FaceCoefficients::Values coefficients;
             for (float& coefficient : coefficients) {
                 if (!readStorable(in, coefficient)) {
                     return false;
                 }
             }
-            if (!storableExponent(coefficients[7])) {
+            if (!StorableValue::exponent(coefficients[7])) {
                 return false;
             }
             builder.face(orderNumber, indices, coefficients);
@@ -141,19 +131,12 @@ public:
         solid_->faces.reserve(static_cast<size_t>(faceCount));
     }
     void face(int32_t orderNumber, std::span<const int32_t> indices,
-              const std::array<float, 8>& k) {
+              const FaceCoefficients::Values& k) {
         auto face = std::make_shared<Face3d>();
         face->setSolidContainer(solid_.get());
         face->setOrderNumber(orderNumber);
         face->SetPoints({indices.begin(), indices.end()});
-        face->AmbientKr = k[0];
-        face->AmbientKg = k[1];
-        face->AmbientKb = k[2];
-        face->DiffuseKr = k[3];
-        face->DiffuseKg = k[4];
-        face->DiffuseKb = k[5];
-        face->SpecularK = k[6];
-        face->SpecularN = k[7];
+        FaceCoefficients::set(*face, k);
         solid_->AddFace3D(face);
     }
 
@@ -172,7 +155,7 @@ public:
     void beginObject(int32_t pointCount) { counts.push_back({pointCount, 0}); }
     void point(float, float, float) {}
     void beginFaces(int32_t faceCount) { counts.back().faces = faceCount; }
-    void face(int32_t, std::span<const int32_t>, const std::array<float, 8>&) {}
+    void face(int32_t, std::span<const int32_t>, const FaceCoefficients::Values&) {}
 
     std::vector<TavrinMeshIO::ObjectCounts> counts;
 };
@@ -187,7 +170,7 @@ std::optional<std::vector<uint8_t>> encode(const ObjectList& objects) {
     LittleEndianWriter out;
     bool valid = true;
     const auto writeValue = [&](float value) {
-        valid = valid && storable(value);
+        valid = valid && StorableValue::value(value);
         out.writeFloat32(value);
     };
     out.writeInt32(countOf(objects.size()));
@@ -209,12 +192,10 @@ std::optional<std::vector<uint8_t>> encode(const ObjectList& objects) {
             for (const int32_t index : indices) {
                 out.writeInt32(index);
             }
-            for (const float coefficient :
-                 {face->AmbientKr, face->AmbientKg, face->AmbientKb, face->DiffuseKr,
-                  face->DiffuseKg, face->DiffuseKb, face->SpecularK, face->SpecularN}) {
+            for (const float coefficient : FaceCoefficients::of(*face)) {
                 writeValue(coefficient);
             }
-            valid = valid && storableExponent(face->SpecularN);
+            valid = valid && StorableValue::exponent(face->SpecularN);
         }
     }
     if (!valid) {

@@ -158,6 +158,11 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
     // The third drawing cannot replace a folder: nothing at all is replaced.
     std::ofstream(dir_ / "out.tvm") << "old scene";
     fs::create_directories(dir_ / "svg" / "viewport2.svg");
+    // The .obj is written only with its library, which cannot replace a folder.
+    std::ofstream(dir_ / "out.obj") << "old mesh";
+    fs::create_directories(dir_ / "out.mtl");
+    std::ofstream(dir_ / "cut.ply") << "ply\nformat ascii 1.0\nelement vertex 2\nproperty float x\n"
+                                       "property float y\nproperty float z\nend_header\n0 0 0\n1\n";
 
     const std::string file = "korvan-cli: cannot open '" + (dir_ / "").string();
     const auto cannot = [&](const std::string& what, const std::string& name,
@@ -211,6 +216,16 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
          cannot("cannot use", "diamond.txt", " (--sandbox): not a directory")},
         {"replay " + at("resize.macro") + out + " --svg-dir " + at("svg"),
          cannot("cannot write", "svg/viewport2.svg", ": is a directory")},
+        {"convert " + scene_ + " " + at("out.obj"),
+         cannot("cannot write", "out.mtl", ": is a directory")},
+        {"convert " + at("cut.ply") + " " + at("out.tvm"),
+         cannot("cannot read", "cut.ply", ": the file ends early")},
+        {"convert " + at("missing.obj") + " " + at("out.tvm"),
+         file + "missing.obj': no such file or directory\n"},
+        {"convert " + scene_ + " " + at("out.ply") + " --ascii",
+         "korvan-cli: --ascii applies to an .stl output only\n", 2},
+        {"convert " + at("out.stl") + " " + at("out.tvm"),
+         cannot("input file", "out.stl", " must end in .tvm, .obj or .ply"), 2},
     };
     for (const Case& c : cases) {
         const Outcome outcome = run(c.arguments, c.out, memoryLimit);
@@ -221,7 +236,43 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
     EXPECT_FALSE(fs::exists(dir_ / "out.png"));
     EXPECT_TRUE(fs::is_symlink(dir_ / "full.png"));
     EXPECT_EQ(readAll(dir_ / "out.tvm"), "old scene");
+    EXPECT_EQ(readAll(dir_ / "out.obj"), "old mesh");
     EXPECT_EQ(std::distance(fs::directory_iterator(dir_ / "svg"), {}), 1);
+}
+
+TEST_F(CliEndToEnd, ConvertsTwistedRecolouredSolidsThroughObjAndPlyBackToTheSameFile) {
+    std::ofstream(dir_ / "diamond.txt") << diamond;
+    ASSERT_EQ(run("extrude " + at("diamond.txt") +
+                  " --subdivisions 3 --transform 'Rotate(0,0,0.6)' --diffuse 200,30,90 "
+                  "--specular-k 37 --specular-n 12 --add-to " +
+                  scene_ + " -o " + at("twisted.tvm"))
+                  .status,
+              0);
+    for (const std::string mesh : {"twisted.obj", "twisted.PLY"}) {
+        const Outcome there = run("convert " + at("twisted.tvm") + " " + at(mesh));
+        EXPECT_EQ(there.status, 0) << mesh;
+        EXPECT_EQ(there.err, "") << mesh;
+        const Outcome back = run("convert " + at(mesh) + " " + at("back.tvm"));
+        EXPECT_EQ(back.status, 0) << mesh;
+        EXPECT_EQ(back.err, "") << mesh;
+        EXPECT_EQ(readAll(dir_ / "back.tvm"), readAll(dir_ / "twisted.tvm")) << mesh;
+    }
+    EXPECT_TRUE(readAll(dir_ / "twisted.mtl").starts_with("# Written by Korvan"));
+    // STL holds 50 bytes per triangle it counts; its text form as many facets.
+    ASSERT_EQ(run("convert " + at("twisted.tvm") + " " + at("twisted.stl")).status, 0);
+    ASSERT_EQ(run("convert " + at("twisted.tvm") + " " + at("text.stl") + " --ascii").status, 0);
+    const std::string binary = readAll(dir_ / "twisted.stl");
+    ASSERT_GE(binary.size(), 84u);
+    const uint32_t triangles = static_cast<uint8_t>(binary[80]) |
+                               static_cast<uint32_t>(static_cast<uint8_t>(binary[81])) << 8;
+    EXPECT_EQ(binary.size(), 84 + 50 * triangles);
+    const std::string text = readAll(dir_ / "text.stl");
+    size_t facets = 0;
+    for (size_t at = text.find("facet normal"); at != std::string::npos;
+         at = text.find("facet normal", at + 1)) {
+        ++facets;
+    }
+    EXPECT_EQ(facets, triangles);
 }
 
 TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {

@@ -1,0 +1,52 @@
+#pragma once
+
+// What the mesh harnesses do with what a reader accepts: draw it in every display mode, since
+// accepted data must never make the renderer read out of bounds or stall.
+#include "app/SceneDocument.h"
+#include "io/TavrinMeshIO.h"
+#include "macro/BlankCanvas.h"
+#include "platform/Prompts.h"
+#include "render/KorvanOpsConsts.h"
+#include "render/ViewportRenderer.h"
+#include "scene/Transformed3d.h"
+
+namespace FuzzDrawing {
+
+// Arithmetic reports of drawing odd solids, answered without a word.
+class SilentPrompts : public Prompts {
+public:
+    MessageAnswer messageBox(const std::string&, const std::string&, MessageIcon,
+                             MessageButtons buttons) override {
+        return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+    }
+    std::optional<std::string> inputBox(const std::string&, const std::string&,
+                                        const std::string&) override {
+        return std::nullopt;
+    }
+};
+
+inline void silencePrompts() {
+    static SilentPrompts prompts;
+    installPrompts(&prompts);
+}
+
+inline void drawEveryWay(const ObjectList& objects) {
+    SceneDocument document = SceneDocument::startUp();
+    document.showGrid = false;
+    document.solids = objects;
+    for (const bool hide : {true, false}) {
+        for (const bool wire : {true, false}) {
+            ViewSpecs view;
+            KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, view);
+            view.HideSurfaces = hide;
+            view.wireFrame = wire;
+            BlankCanvas canvas(320, 240);
+            ViewportRenderer().redrawViewport(canvas, view, document.scene());
+            for (const auto& object : objects) {
+                object->createFaceRegionEncaps(hide, true, 2);
+            }
+        }
+    }
+}
+
+} // namespace FuzzDrawing

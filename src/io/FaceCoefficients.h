@@ -1,0 +1,29 @@
+#pragma once
+
+#include "scene/Face3d.h"
+
+#include <array>
+
+// A face's eight surface coefficients in the order every mesh format of the program keeps
+// them: the ambient triple, the diffuse triple, SpecularK, SpecularN.
+namespace FaceCoefficients {
+
+using Values = std::array<float, 8>;
+
+inline Values of(const Face3d& face) {
+    return {face.AmbientKr, face.AmbientKg, face.AmbientKb, face.DiffuseKr,
+            face.DiffuseKg, face.DiffuseKb, face.SpecularK, face.SpecularN};
+}
+
+inline void set(Face3d& face, const Values& k) {
+    face.AmbientKr = k[0];
+    face.AmbientKg = k[1];
+    face.AmbientKb = k[2];
+    face.DiffuseKr = k[3];
+    face.DiffuseKg = k[4];
+    face.DiffuseKb = k[5];
+    face.SpecularK = k[6];
+    face.SpecularN = k[7];
+}
+
+} // namespace FaceCoefficients
