@@ -1,0 +1,378 @@
+#include "io/AssimpMeshImporter.h"
+
+#include "geometry/Rounding.h"
+#include "io/PosixFileSystem.h"
+#include "scene/Face3d.h"
+#include "scene/Solid3d.h"
+#include "scene/Transformed3d.h"
+
+#include <algorithm>
+#include <array>
+#include <assimp/Importer.hpp>
+#include <assimp/config.h>
+#include <assimp/material.h>
+#include <assimp/scene.h>
+#include <bit>
+#include <cctype>
+#include <cmath>
+#include <cstring>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace {
+
+// What a material does not say: the values of an extrusion's unticked surface groups.
+constexpr float defaultCoefficient = 0.5f;
+constexpr float defaultExponent = 50;
+// The face dialog's specular exponent bar.
+constexpr float maxExponent = 100;
+
+struct Surface {
+    std::array<float, 3> ambient{defaultCoefficient, defaultCoefficient, defaultCoefficient};
+    std::array<float, 3> diffuse{defaultCoefficient, defaultCoefficient, defaultCoefficient};
+    float specularK = defaultCoefficient;
+    float specularN = defaultExponent;
+};
+
+// The colour under the key, when the material has one with finite channels.
+std::optional<aiColor4D> colourOf(const aiMaterial& material, const char* key, unsigned type,
+                                  unsigned index) {
+    aiColor4D colour;
+    if (material.Get(key, type, index, colour) != AI_SUCCESS || !std::isfinite(colour.r) ||
+        !std::isfinite(colour.g) || !std::isfinite(colour.b)) {
+        return std::nullopt;
+    }
+    return colour;
+}
+
+float unit(float value) {
+    return std::clamp(value, 0.0f, 1.0f);
+}
+
+void setColour(const std::optional<aiColor4D>& colour, std::array<float, 3>& channels) {
+    if (colour) {
+        channels = {unit(colour->r), unit(colour->g), unit(colour->b)};
+    }
+}
+
+Surface surfaceOf(const aiMaterial* material) {
+    Surface surface;
+    aiString name;
+    // The library gives files without materials one of its own, which says nothing.
+    if (material == nullptr || (material->Get(AI_MATKEY_NAME, name) == AI_SUCCESS &&
+                                std::strcmp(name.C_Str(), AI_DEFAULT_MATERIAL_NAME) == 0)) {
+        return surface;
+    }
+    setColour(colourOf(*material, AI_MATKEY_COLOR_DIFFUSE), surface.diffuse);
+    setColour(colourOf(*material, AI_MATKEY_COLOR_AMBIENT), surface.ambient);
+    if (const auto specular = colourOf(*material, AI_MATKEY_COLOR_SPECULAR)) {
+        float strength = 1;
+        if (material->Get(AI_MATKEY_SHININESS_STRENGTH, strength) != AI_SUCCESS ||
+            !std::isfinite(strength)) {
+            strength = 1;
+        }
+        surface.specularK = unit((specular->r + specular->g + specular->b) / 3 * strength);
+    }
+    float shininess;
+    if (material->Get(AI_MATKEY_SHININESS, shininess) == AI_SUCCESS && std::isfinite(shininess)) {
+        surface.specularN =
+            static_cast<float>(Rounding::toInt32(std::clamp(shininess, 0.0f, maxExponent)));
+    }
+    return surface;
+}
+
+// A node of the scene that holds meshes, with its transformation to the scene's root.
+struct PlacedNode {
+    const aiNode* node;
+    aiMatrix4x4 transform;
+};
+
+// The nodes with meshes, in the file's order (parents before children), walked without
+// recursion so that a deep tree cannot exhaust the stack.
+std::vector<PlacedNode> nodesWithMeshes(const aiNode* root) {
+    std::vector<PlacedNode> placed;
+    std::vector<PlacedNode> pending{{root, root->mTransformation}};
+    while (!pending.empty()) {
+        const PlacedNode next = pending.back();
+        pending.pop_back();
+        if (next.node->mNumMeshes > 0) {
+            placed.push_back(next);
+        }
+        for (unsigned i = next.node->mNumChildren; i-- > 0;) {
+            const aiNode* child = next.node->mChildren[i];
+            if (child != nullptr) {
+                pending.push_back({child, next.transform * child->mTransformation});
+            }
+        }
+    }
+    return placed;
+}
+
+// The one-line form of a message from the library.
+std::string oneLine(const char* text) {
+    std::string line;
+    for (const char* c = text; *c != '\0'; ++c) {
+        line += std::iscntrl(static_cast<unsigned char>(*c)) ? ' ' : *c;
+    }
+    const size_t end = line.find_last_not_of(' ');
+    return end == std::string::npos ? "" : line.substr(0, end + 1);
+}
+
+// Builds the solid of one node; throws std::runtime_error with the reason of a refusal.
+class SolidBuilder {
+public:
+    SolidBuilder(const aiScene& scene, const PlacedNode& placed)
+        : scene_(scene), placed_(placed), mirrored_(placed.transform.Determinant() < 0) {}
+
+    // The node's solid, or none when its meshes hold no polygons.
+    std::shared_ptr<Transformed3d> build() {
+        const bool join = !sharesCorners();
+        for (unsigned m = 0; m < placed_.node->mNumMeshes; ++m) {
+            const aiMesh& mesh = meshAt(m);
+            const auto firstPoint = static_cast<int32_t>(coordinates_.size() / 3) + 1;
+            if (!join) {
+                for (unsigned v = 0; v < mesh.mNumVertices; ++v) {
+                    addPoint(mesh.mVertices[v]);
+                }
+            }
+            const aiMaterial* material = mesh.mMaterialIndex < scene_.mNumMaterials
+                                             ? scene_.mMaterials[mesh.mMaterialIndex]
+                                             : nullptr;
+            const Surface surface = surfaceOf(material);
+            for (unsigned f = 0; f < mesh.mNumFaces; ++f) {
+                const aiFace& face = mesh.mFaces[f];
+                if (face.mNumIndices < 3) {
+                    continue;
+                }
+                std::vector<int32_t> corners;
+                corners.reserve(face.mNumIndices);
+                for (unsigned c = 0; c < face.mNumIndices; ++c) {
+                    const unsigned vertex = face.mIndices[c];
+                    corners.push_back(join ? joinedPoint(mesh.mVertices[vertex])
+                                           : firstPoint + static_cast<int32_t>(vertex));
+                }
+                if (mirrored_) {
+                    std::reverse(corners.begin(), corners.end());
+                }
+                faces_.push_back({std::move(corners), surface});
+            }
+        }
+        if (faces_.empty()) {
+            return nullptr;
+        }
+        auto solid = std::make_shared<Solid3d>();
+        solid->addPointsArray(coordinates_);
+        solid->faces.reserve(faces_.size());
+        for (const auto& [corners, surface] : faces_) {
+            const auto face = solid->AddFaceArray(corners);
+            face->AmbientKr = surface.ambient[0];
+            face->AmbientKg = surface.ambient[1];
+            face->AmbientKb = surface.ambient[2];
+            face->DiffuseKr = surface.diffuse[0];
+            face->DiffuseKg = surface.diffuse[1];
+            face->DiffuseKb = surface.diffuse[2];
+            face->SpecularK = surface.specularK;
+            face->SpecularN = surface.specularN;
+        }
+        auto object = std::make_shared<Transformed3d>();
+        object->setSolid(solid);
+        return object;
+    }
+
+private:
+    const aiMesh& meshAt(unsigned i) const { return *scene_.mMeshes[placed_.node->mMeshes[i]]; }
+
+    // Whether a point of a mesh is a corner of two faces; checks every corner's index.
+    bool sharesCorners() const {
+        bool shared = false;
+        for (unsigned m = 0; m < placed_.node->mNumMeshes; ++m) {
+            const aiMesh& mesh = meshAt(m);
+            std::vector<bool> used(mesh.mNumVertices);
+            for (unsigned f = 0; f < mesh.mNumFaces; ++f) {
+                const aiFace& face = mesh.mFaces[f];
+                for (unsigned c = 0; c < face.mNumIndices && face.mNumIndices >= 3; ++c) {
+                    const unsigned vertex = face.mIndices[c];
+                    if (vertex >= mesh.mNumVertices) {
+                        throw std::runtime_error("a face refers to a point the file does not have");
+                    }
+                    shared = shared || used[vertex];
+                    used[vertex] = true;
+                }
+            }
+        }
+        return shared;
+    }
+
+    std::array<float, 3> placedPoint(const aiVector3D& vertex) const {
+        const aiVector3D p = placed_.transform * vertex;
+        if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z)) {
+            throw std::runtime_error("a point is not a finite number");
+        }
+        // + 0 turns -0 into 0, so that the two join.
+        return {p.x + 0.0f, p.y + 0.0f, p.z + 0.0f};
+    }
+
+    void addPoint(const aiVector3D& vertex) {
+        const auto p = placedPoint(vertex);
+        coordinates_.insert(coordinates_.end(), p.begin(), p.end());
+    }
+
+    // The 1-based point at the corner's place, added when no earlier corner was there.
+    int32_t joinedPoint(const aiVector3D& vertex) {
+        const auto p = placedPoint(vertex);
+        const Key key{std::bit_cast<uint32_t>(p[0]), std::bit_cast<uint32_t>(p[1]),
+                      std::bit_cast<uint32_t>(p[2])};
+        const auto [place, added] =
+            points_.try_emplace(key, static_cast<int32_t>(coordinates_.size() / 3) + 1);
+        if (added) {
+            coordinates_.insert(coordinates_.end(), p.begin(), p.end());
+        }
+        return place->second;
+    }
+
+    using Key = std::array<uint32_t, 3>;
+    struct KeyHash {
+        size_t operator()(const Key& key) const {
+            uint64_t h = key[0];
+            h = h * 0x9E3779B97F4A7C15u ^ key[1];
+            h = h * 0x9E3779B97F4A7C15u ^ key[2];
+            return static_cast<size_t>(h ^ (h >> 29));
+        }
+    };
+
+    const aiScene& scene_;
+    const PlacedNode& placed_;
+    bool mirrored_;
+    std::vector<float> coordinates_;
+    std::unordered_map<Key, int32_t, KeyHash> points_;
+    struct FaceData {
+        std::vector<int32_t> corners;
+        Surface surface;
+    };
+    std::vector<FaceData> faces_;
+};
+
+// Refuses a scene whose nodes refer to meshes it does not have or that would make more than
+// the importer builds, counting every use of a mesh.
+void checkSize(const aiScene& scene, const std::vector<PlacedNode>& nodes) {
+    uint64_t faces = 0;
+    uint64_t corners = 0;
+    uint64_t points = 0;
+    for (const PlacedNode& placed : nodes) {
+        for (unsigned m = 0; m < placed.node->mNumMeshes; ++m) {
+            const unsigned index = placed.node->mMeshes[m];
+            if (index >= scene.mNumMeshes || scene.mMeshes[index] == nullptr) {
+                throw std::runtime_error("an object refers to a mesh the file does not have");
+            }
+            const aiMesh& mesh = *scene.mMeshes[index];
+            faces += mesh.mNumFaces;
+            points += mesh.mNumVertices;
+            for (unsigned f = 0; f < mesh.mNumFaces && corners <= AssimpMeshImporter::maxCorners;
+                 ++f) {
+                corners += mesh.mFaces[f].mNumIndices;
+            }
+            if (faces > AssimpMeshImporter::maxFaces) {
+                throw std::runtime_error("more than " +
+                                         std::to_string(AssimpMeshImporter::maxFaces) + " faces");
+            }
+            if (corners > AssimpMeshImporter::maxCorners ||
+                points > AssimpMeshImporter::maxCorners) {
+                throw std::runtime_error("more than " +
+                                         std::to_string(AssimpMeshImporter::maxCorners) +
+                                         " points or face corners");
+            }
+        }
+    }
+}
+
+// The lower-case extension of a file name, dot included, or "" when it has none.
+std::string extensionOf(const std::string& filename) {
+    const size_t dot = filename.find_last_of('.');
+    if (dot == std::string::npos || filename.find('/', dot) != std::string::npos) {
+        return "";
+    }
+    std::string extension = filename.substr(dot);
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
+}
+
+// The library's settings for every read: no post-processing steps (no triangulation, no
+// joining of its own), no meshes made up for skeletons.
+void configure(Assimp::Importer& importer) {
+    importer.SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true);
+}
+
+} // namespace
+
+AssimpMeshImporter::AssimpMeshImporter() : system_(PosixFileSystem::instance()) {}
+
+bool AssimpMeshImporter::importsExtension(const std::string& filename) {
+    const std::string extension = extensionOf(filename);
+    return !extension.empty() && Assimp::Importer().IsExtensionSupported(extension);
+}
+
+std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& filename) {
+    FileSystem::Status status;
+    if (const std::error_code error = system_.status(filename, status)) {
+        return fail(error.message());
+    }
+    if (status.kind != FileSystem::Kind::Regular) {
+        return fail("not a regular file");
+    }
+    if (status.size > maxFileBytes) {
+        return fail("larger than the " + std::to_string(maxFileBytes >> 20) +
+                    " MiB the importer reads");
+    }
+    Assimp::Importer importer;
+    configure(importer);
+    return build(importer.ReadFile(filename, 0), importer.GetErrorString());
+}
+
+std::optional<ObjectList> AssimpMeshImporter::importBytes(std::span<const uint8_t> bytes,
+                                                          const std::string& extension) {
+    Assimp::Importer importer;
+    configure(importer);
+    // The library takes the hint without its dot.
+    const std::string hint = extensionOf("file" + extension).substr(1);
+    return build(importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str()),
+                 importer.GetErrorString());
+}
+
+std::optional<ObjectList> AssimpMeshImporter::fail(const std::string& reason) {
+    lastError_ = reason;
+    return std::nullopt;
+}
+
+std::optional<ObjectList> AssimpMeshImporter::build(const aiScene* scene,
+                                                    const char* libraryError) {
+    if (scene == nullptr) {
+        const std::string reason = oneLine(libraryError);
+        return fail(reason.empty() ? "not a mesh file the importer reads" : reason);
+    }
+    if (scene->mRootNode == nullptr) {
+        return fail("the file holds no polygons");
+    }
+    try {
+        const std::vector<PlacedNode> nodes = nodesWithMeshes(scene->mRootNode);
+        checkSize(*scene, nodes);
+        ObjectList objects;
+        for (const PlacedNode& placed : nodes) {
+            if (auto object = SolidBuilder(*scene, placed).build()) {
+                objects.push_back(std::move(object));
+            }
+        }
+        if (objects.empty()) {
+            return fail("the file holds no polygons");
+        }
+        lastError_.clear();
+        return objects;
+    } catch (const std::bad_alloc&) {
+        return fail("not enough memory for the file's solids");
+    } catch (const std::runtime_error& refusal) {
+        return fail(refusal.what());
+    }
+}
