@@ -111,14 +111,20 @@ std::vector<PlacedNode> nodesWithMeshes(const aiNode* root) {
     return placed;
 }
 
-// The one-line form of a message from the library.
+// The library's message as one line of at most maxMessage characters; some quote the
+// whole rest of the file.
 std::string oneLine(const char* text) {
+    constexpr size_t maxMessage = 160;
+    if (std::strcmp(text, "std::bad_alloc") == 0) {
+        return "not enough memory to read the file";
+    }
     std::string line;
     for (const char* c = text; *c != '\0'; ++c) {
         line += std::iscntrl(static_cast<unsigned char>(*c)) ? ' ' : *c;
     }
     const size_t end = line.find_last_not_of(' ');
-    return end == std::string::npos ? "" : line.substr(0, end + 1);
+    line.resize(end == std::string::npos ? 0 : end + 1);
+    return line.size() > maxMessage ? line.substr(0, maxMessage - 3) + "..." : line;
 }
 
 // Builds the solid of one node; throws std::runtime_error with the reason of a refusal.
@@ -329,7 +335,8 @@ std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& file
     }
     Assimp::Importer importer;
     configure(importer);
-    return build(importer.ReadFile(filename, 0), importer.GetErrorString());
+    const aiScene* scene = importer.ReadFile(filename, 0);
+    return build(scene, importer.GetErrorString());
 }
 
 std::optional<ObjectList> AssimpMeshImporter::importBytes(std::span<const uint8_t> bytes,
@@ -338,8 +345,8 @@ std::optional<ObjectList> AssimpMeshImporter::importBytes(std::span<const uint8_
     configure(importer);
     // The library takes the hint without its dot.
     const std::string hint = extensionOf("file" + extension).substr(1);
-    return build(importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str()),
-                 importer.GetErrorString());
+    const aiScene* scene = importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str());
+    return build(scene, importer.GetErrorString());
 }
 
 std::optional<ObjectList> AssimpMeshImporter::fail(const std::string& reason) {
