@@ -30,8 +30,8 @@ struct aiScene;
 //   What a material does not say, or a file without materials, gives the values of an
 //   extrusion's unticked groups: 0.5 for each colour channel and SpecularK, 50 for SpecularN.
 //
-// Bounded: files above maxFileBytes, and scenes above maxFaces faces or maxCorners corners
-// (counting every use of a mesh), are refused before anything is built, and so is a point
+// Bounded: files above maxFileBytes, and scenes above maxFaces faces or maxCorners points or
+// corners (counting every use of a mesh), are refused before anything is built, and so is a point
 // that is not a finite number. A refusal or a file the library cannot read leaves one line
 // saying why in lastError().
 class AssimpMeshImporter {
