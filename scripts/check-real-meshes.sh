@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 cli="${1:-build/default/src/cli/korvan-cli}"
-seconds=30
+seconds=60
 memory_kib=$((4 * 1024 * 1024))
 
 if [ ! -x "$cli" ]; then
@@ -44,7 +44,7 @@ while IFS= read -r file; do
     if [ "$status" -eq 0 ] && [ ! -s "$err" ] && grep -q '^{"file": ' "$out"; then
         imported[$format]=$((${imported[$format]:-0} + 1))
     elif [ "$status" -eq 1 ] && [ ! -s "$out" ] && [ "$(wc -l <"$err")" -eq 1 ] &&
-        grep -q '^korvan-cli: cannot read ' "$err"; then
+        grep -q '^korvan-cli: ' "$err"; then
         refused[$format]=$((${refused[$format]:-0} + 1))
         echo "refused: $(cat "$err")"
     else

@@ -8,17 +8,28 @@
 
 #include <algorithm>
 #include <array>
+#include <assimp/BaseImporter.h>
 #include <assimp/Importer.hpp>
 #include <assimp/config.h>
+#include <assimp/importerdesc.h>
 #include <assimp/material.h>
 #include <assimp/scene.h>
 #include <bit>
 #include <cctype>
 #include <cmath>
+#include <csignal>
 #include <cstring>
+#include <fcntl.h>
+#include <functional>
+#include <memory>
 #include <new>
+#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <unordered_map>
 #include <vector>
 
@@ -306,10 +317,113 @@ std::string extensionOf(const std::string& filename) {
     return extension;
 }
 
-// The library's settings for every read: no post-processing steps (no triangulation, no
-// joining of its own), no meshes made up for skeletons.
+// The extensions of the formats read. The library's other readers are left out: some of
+// them hang or crash on corrupt files (5.2's PLY reader loops for ever on a header it does
+// not expect), and these are the ones fuzzed.
+constexpr std::array<std::string_view, 6> readFormats{".stl",  ".off", ".obj",
+                                                      ".gltf", ".glb", ".3mf"};
+
+bool isReadFormat(std::string_view extension) {
+    return std::find(readFormats.begin(), readFormats.end(), extension) != readFormats.end();
+}
+
+// Whether one of a reader's extensions (a list like "stl stlb") is a format read.
+bool readsAFormat(const aiImporterDesc* description) {
+    if (description == nullptr) {
+        return false;
+    }
+    std::istringstream extensions(description->mFileExtensions);
+    std::string extension;
+    while (extensions >> extension) {
+        if (isReadFormat("." + extension)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// The library with only the readers of the formats read (it would otherwise try all of
+// them on a file it does not know by its name), no post-processing steps (no
+// triangulation, no joining of its own) and no meshes made up for skeletons.
 void configure(Assimp::Importer& importer) {
+    for (size_t i = importer.GetImporterCount(); i-- > 0;) {
+        if (!readsAFormat(importer.GetImporterInfo(i))) {
+            // The library hands a reader it no longer holds back to the caller.
+            std::unique_ptr<Assimp::BaseImporter> reader(importer.GetImporter(i));
+            if (importer.UnregisterLoader(reader.get()) != AI_SUCCESS) {
+                reader.release();
+            }
+        }
+    }
     importer.SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true);
+}
+
+// The solids of a scene the library has read; throws std::runtime_error with the reason of a
+// refusal.
+ObjectList solidsOf(const aiScene* scene, const char* libraryError) {
+    if (scene == nullptr) {
+        const std::string reason = oneLine(libraryError);
+        throw std::runtime_error(reason.empty() ? "not a mesh file the importer reads" : reason);
+    }
+    ObjectList objects;
+    if (scene->mRootNode != nullptr) {
+        const std::vector<PlacedNode> nodes = nodesWithMeshes(scene->mRootNode);
+        checkSize(*scene, nodes);
+        for (const PlacedNode& placed : nodes) {
+            if (auto object = SolidBuilder(*scene, placed).build()) {
+                objects.push_back(std::move(object));
+            }
+        }
+    }
+    if (objects.empty()) {
+        throw std::runtime_error("the file holds no polygons");
+    }
+    return objects;
+}
+
+// What a read in the child process sends back: 'M' and the solids as the records of a mesh
+// file, or 'E' and the reason of a failure.
+std::vector<uint8_t> answerOf(const std::function<const aiScene*(Assimp::Importer&)>& read) {
+    std::string reason;
+    try {
+        Assimp::Importer importer;
+        configure(importer);
+        const aiScene* scene = read(importer);
+        if (auto records = TavrinMeshIO::records(solidsOf(scene, importer.GetErrorString()))) {
+            records->insert(records->begin(), 'M');
+            return *records;
+        }
+        reason = "a value cannot be stored";
+    } catch (const std::bad_alloc&) {
+        reason = "not enough memory to read the file";
+    } catch (const std::exception& refusal) {
+        reason = refusal.what();
+    }
+    std::vector<uint8_t> answer{'E'};
+    answer.insert(answer.end(), reason.begin(), reason.end());
+    return answer;
+}
+
+void writeAll(int into, std::span<const uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(into, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            return;
+        }
+        bytes = bytes.subspan(static_cast<size_t>(std::max<ssize_t>(written, 0)));
+    }
+}
+
+std::vector<uint8_t> readAll(int from) {
+    std::vector<uint8_t> bytes;
+    std::array<uint8_t, 65536> block;
+    for (;;) {
+        const ssize_t count = ::read(from, block.data(), block.size());
+        if (count == 0 || (count < 0 && errno != EINTR)) {
+            return bytes;
+        }
+        bytes.insert(bytes.end(), block.begin(), block.begin() + std::max<ssize_t>(count, 0));
+    }
 }
 
 } // namespace
@@ -317,8 +431,7 @@ void configure(Assimp::Importer& importer) {
 AssimpMeshImporter::AssimpMeshImporter() : system_(PosixFileSystem::instance()) {}
 
 bool AssimpMeshImporter::importsExtension(const std::string& filename) {
-    const std::string extension = extensionOf(filename);
-    return !extension.empty() && Assimp::Importer().IsExtensionSupported(extension);
+    return isReadFormat(extensionOf(filename));
 }
 
 std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& filename) {
@@ -333,20 +446,16 @@ std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& file
         return fail("larger than the " + std::to_string(maxFileBytes >> 20) +
                     " MiB the importer reads");
     }
-    Assimp::Importer importer;
-    configure(importer);
-    const aiScene* scene = importer.ReadFile(filename, 0);
-    return build(scene, importer.GetErrorString());
+    return readApart([&](Assimp::Importer& importer) { return importer.ReadFile(filename, 0); });
 }
 
 std::optional<ObjectList> AssimpMeshImporter::importBytes(std::span<const uint8_t> bytes,
                                                           const std::string& extension) {
-    Assimp::Importer importer;
-    configure(importer);
     // The library takes the hint without its dot.
     const std::string hint = extensionOf("file" + extension).substr(1);
-    const aiScene* scene = importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str());
-    return build(scene, importer.GetErrorString());
+    return readApart([&](Assimp::Importer& importer) {
+        return importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str());
+    });
 }
 
 std::optional<ObjectList> AssimpMeshImporter::fail(const std::string& reason) {
@@ -354,32 +463,53 @@ std::optional<ObjectList> AssimpMeshImporter::fail(const std::string& reason) {
     return std::nullopt;
 }
 
-std::optional<ObjectList> AssimpMeshImporter::build(const aiScene* scene,
-                                                    const char* libraryError) {
-    if (scene == nullptr) {
-        const std::string reason = oneLine(libraryError);
-        return fail(reason.empty() ? "not a mesh file the importer reads" : reason);
+std::optional<ObjectList>
+AssimpMeshImporter::readApart(const std::function<const aiScene*(Assimp::Importer&)>& read) {
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
+        return fail(std::generic_category().message(errno));
     }
-    if (scene->mRootNode == nullptr) {
-        return fail("the file holds no polygons");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(ends[0]);
+        // The library's own complaints (failed assertions) are not the program's messages.
+        const int nowhere = ::open("/dev/null", O_WRONLY);
+        ::dup2(nowhere, STDOUT_FILENO);
+        ::dup2(nowhere, STDERR_FILENO);
+        const rlimit memory{maxReadBytes, maxReadBytes};
+        ::setrlimit(RLIMIT_DATA, &memory);
+        ::alarm(maxReadSeconds);
+        writeAll(ends[1], answerOf(read));
+        // Straight out: nothing of the parent's (buffers, handlers) runs in the child.
+        ::_exit(0);
     }
-    try {
-        const std::vector<PlacedNode> nodes = nodesWithMeshes(scene->mRootNode);
-        checkSize(*scene, nodes);
-        ObjectList objects;
-        for (const PlacedNode& placed : nodes) {
-            if (auto object = SolidBuilder(*scene, placed).build()) {
-                objects.push_back(std::move(object));
-            }
-        }
-        if (objects.empty()) {
-            return fail("the file holds no polygons");
-        }
-        lastError_.clear();
-        return objects;
-    } catch (const std::bad_alloc&) {
-        return fail("not enough memory for the file's solids");
-    } catch (const std::runtime_error& refusal) {
-        return fail(refusal.what());
+    const int forkError = errno;
+    ::close(ends[1]);
+    const std::vector<uint8_t> answer = child > 0 ? readAll(ends[0]) : std::vector<uint8_t>();
+    ::close(ends[0]);
+    if (child < 0) {
+        return fail(std::generic_category().message(forkError));
     }
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    if (WIFSIGNALED(status)) {
+        const int signal = WTERMSIG(status);
+        return fail(signal == SIGALRM
+                        ? "the library took longer than " + std::to_string(maxReadSeconds) +
+                              " s to read it"
+                        : "the library failed on it (" + std::string(::strsignal(signal)) + ")");
+    }
+    if (answer.empty() || (answer[0] != 'M' && answer[0] != 'E')) {
+        return fail("the library failed on it");
+    }
+    if (answer[0] == 'E') {
+        return fail(std::string(answer.begin() + 1, answer.end()));
+    }
+    auto objects = TavrinMeshIO::parse(std::span(answer).subspan(1));
+    if (!objects) {
+        return fail("the library's answer was cut short");
+    }
+    lastError_.clear();
+    return objects;
 }

@@ -4,11 +4,15 @@
 #include "platform/FileSystem.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 
 struct aiScene;
+namespace Assimp {
+class Importer;
+}
 
 // Reads the mesh files of other programs (STL, OFF, glTF 2.0, 3MF and the other formats the
 // Open Asset Import Library knows) into scene objects.
@@ -39,6 +43,8 @@ public:
     static constexpr uint64_t maxFileBytes = uint64_t{1} << 30;
     static constexpr uint64_t maxFaces = 20'000'000;
     static constexpr uint64_t maxCorners = 80'000'000;
+    static constexpr unsigned maxReadSeconds = 30;
+    static constexpr uint64_t maxReadBytes = uint64_t{8} << 30;
 
     // Works on the system's own files.
     AssimpMeshImporter();
@@ -61,8 +67,11 @@ public:
 
 private:
     std::optional<ObjectList> fail(const std::string& reason);
-    // The solids of a scene the library has read, or a failure when it is empty or too large.
-    std::optional<ObjectList> build(const aiScene* scene, const char* libraryError);
+    // Reads with the library in a child process, which sends the solids back as the records
+    // of a mesh file: a crash of the library on a corrupt file, or a read that runs past
+    // maxReadSeconds or maxReadBytes, ends the child and fails the import, nothing else.
+    std::optional<ObjectList>
+    readApart(const std::function<const aiScene*(Assimp::Importer&)>& read);
 
     FileSystem& system_;
     std::string lastError_;

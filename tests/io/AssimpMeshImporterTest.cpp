@@ -157,6 +157,19 @@ TEST(AssimpMeshImporter, IndexedMeshesOfOneObjectKeepTheirPointsOneAfterTheOther
     EXPECT_EQ(solid.faces[2]->getIndices(), (Corners{5, 6, 8}));
 }
 
+// A zip archive of one stored entry, "_rels/.rels" holding "x", whose checksum says 0: the
+// library's 3MF reader stops the whole process on the checksum error.
+std::string zipWithBadChecksum() {
+    using namespace std::string_literals;
+    const std::string entry = "\x14\0\0\0\0\0\x4b\x44\x79\x5d"s      // version, flags, stored, time
+                              "\0\0\0\0\x01\0\0\0\x01\0\0\0\x0b\0"s; // CRC 0, sizes 1, name
+    const std::string name = "_rels/.rels";
+    return "PK\x03\x04"s + entry + "\0\0"s + name + "x" + // local header
+           "PK\x01\x02\x14\x03"s + entry + "\0\0\0\0\0\0\0\0\0\0\x80\x01\0\0\0\0"s +
+           name +                                                     // central entry
+           "PK\x05\x06\0\0\0\0\x01\0\x01\0\x39\0\0\0\x2a\0\0\0\0\0"s; // end record
+}
+
 TEST(AssimpMeshImporter, BadFilesAreRefusedInOneLine) {
     const struct {
         const char* name;
@@ -167,6 +180,7 @@ TEST(AssimpMeshImporter, BadFilesAreRefusedInOneLine) {
         {"lines.obj", "v 0 0 0\nv 1 0 0\nl 1 2\n", "the file holds no polygons"},
         {"cut.stl", std::string(80, 'x') + std::string("\x10\0\0\0", 4), "Failed to determine STL"},
         {"empty.off", "", "File is empty"},
+        {"crc.3mf", zipWithBadChecksum(), "the library failed on it (Aborted)"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
