@@ -18,8 +18,10 @@
 #include <cctype>
 #include <cmath>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <new>
@@ -404,6 +406,19 @@ std::vector<uint8_t> answerOf(const std::function<const aiScene*(Assimp::Importe
     return answer;
 }
 
+// The process's private data in bytes (what the data limit counts: a sanitizer's shadow
+// memory too), 0 when the system does not say.
+uint64_t dataBytesInUse() {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.starts_with("VmData:")) {
+            return std::strtoull(line.c_str() + 7, nullptr, 10) * 1024;
+        }
+    }
+    return 0;
+}
+
 void writeAll(int into, std::span<const uint8_t> bytes) {
     while (!bytes.empty()) {
         const ssize_t written = ::write(into, bytes.data(), bytes.size());
@@ -476,7 +491,13 @@ AssimpMeshImporter::readApart(const std::function<const aiScene*(Assimp::Importe
         const int nowhere = ::open("/dev/null", O_WRONLY);
         ::dup2(nowhere, STDOUT_FILENO);
         ::dup2(nowhere, STDERR_FILENO);
-        const rlimit memory{maxReadBytes, maxReadBytes};
+        // A crash or the alarm ends the child as the system does it, whatever handlers the
+        // program installed (a crash reporter, a sanitizer, a fuzzer).
+        for (const int signal : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGALRM}) {
+            std::signal(signal, SIG_DFL);
+        }
+        const rlim_t limit = dataBytesInUse() + maxReadBytes;
+        const rlimit memory{limit, limit};
         ::setrlimit(RLIMIT_DATA, &memory);
         ::alarm(maxReadSeconds);
         writeAll(ends[1], answerOf(read));

@@ -69,7 +69,8 @@ private:
     std::optional<ObjectList> fail(const std::string& reason);
     // Reads with the library in a child process, which sends the solids back as the records
     // of a mesh file: a crash of the library on a corrupt file, or a read that runs past
-    // maxReadSeconds or maxReadBytes, ends the child and fails the import, nothing else.
+    // maxReadSeconds or takes maxReadBytes more memory than the program had, ends the child
+    // and fails the import, nothing else.
     std::optional<ObjectList>
     readApart(const std::function<const aiScene*(Assimp::Importer&)>& read);
 
