@@ -14,8 +14,8 @@ namespace Assimp {
 class Importer;
 }
 
-// Reads the mesh files of other programs (STL, OFF, glTF 2.0, 3MF and the other formats the
-// Open Asset Import Library knows) into scene objects.
+// Reads the mesh files of other programs (STL, OFF, OBJ, glTF 2.0 and 3MF) into scene
+// objects through the Open Asset Import Library.
 //
 // Each object of the file becomes one solid: a node of the file's scene with the meshes it
 // holds (a glTF mesh, an OBJ "o" group, a whole STL or OFF file), all of them in one solid
@@ -52,7 +52,7 @@ public:
     explicit AssimpMeshImporter(FileSystem& system) : system_(system) {}
 
     // Whether the file name's extension is one of a format this importer reads (".stl",
-    // ".off", ".gltf", ...; case ignored).
+    // ".off", ".obj", ".gltf", ".glb", ".3mf"; case ignored).
     static bool importsExtension(const std::string& filename);
 
     // The objects of the file, or nothing after a failure (see lastError). Files the file
