@@ -466,8 +466,12 @@ std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& file
 
 std::optional<ObjectList> AssimpMeshImporter::importBytes(std::span<const uint8_t> bytes,
                                                           const std::string& extension) {
+    const std::string format = extensionOf("file" + extension);
+    if (!isReadFormat(format)) {
+        return fail("not a format the importer reads");
+    }
     // The library takes the hint without its dot.
-    const std::string hint = extensionOf("file" + extension).substr(1);
+    const std::string hint = format.substr(1);
     return readApart([&](Assimp::Importer& importer) {
         return importer.ReadFileFromMemory(bytes.data(), bytes.size(), 0, hint.c_str());
     });

@@ -197,6 +197,12 @@ TEST(AssimpMeshImporter, KnowsTheExtensionsItImports) {
     EXPECT_TRUE(AssimpMeshImporter::importsExtension("/a/b.c/part.3mf"));
     EXPECT_FALSE(AssimpMeshImporter::importsExtension("scene.tvm"));
     EXPECT_FALSE(AssimpMeshImporter::importsExtension("a.stl/part"));
+    AssimpMeshImporter importer;
+    const std::string_view stl = twoTriangles;
+    EXPECT_TRUE(
+        importer.importBytes({reinterpret_cast<const uint8_t*>(stl.data()), stl.size()}, ".STL"));
+    EXPECT_FALSE(importer.importBytes({}, ".ply"));
+    EXPECT_EQ(importer.lastError(), "not a format the importer reads");
 }
 
 } // namespace
