@@ -2,7 +2,8 @@
 # Imports every STL, OBJ, PLY, OFF and 3MF file of Debian's assimp-testmodels and
 # openscad-testing-data (installed when missing) with `korvan-cli info`, each under a time
 # and memory limit, and prints per format how many imported and how many were refused with
-# one line. A crash, a hang, runaway memory or any other output fails the script.
+# one line; for OFF files, whether the counts match the header. A crash, a hang, runaway
+# memory or any other output fails the script.
 # Usage: scripts/check-real-meshes.sh [KORVAN-CLI]   (default build/default/src/cli/korvan-cli)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -32,6 +33,7 @@ fi
 
 declare -A imported refused
 bad=0
+off_checked=0
 out="$(mktemp)"
 err="$(mktemp)"
 trap 'rm -f "$out" "$err"' EXIT
@@ -43,6 +45,17 @@ while IFS= read -r file; do
         status=$?
     if [ "$status" -eq 0 ] && [ ! -s "$err" ] && grep -q '^{"file": ' "$out"; then
         imported[$format]=$((${imported[$format]:-0} + 1))
+        if [ "$format" = off ]; then
+            # The header's point and face counts, the first two numbers after "OFF".
+            said="$(sed 's/#.*//' "$file" | tr -s ' \t\r\n' '\n' | grep -v '^$' |
+                sed -n '2,3p' | paste -sd ' ')"
+            got="$(sed -E 's/.*"items": \[\{"points": ([0-9]+), "faces": ([0-9]+)\}\]\}$/\1 \2/' "$out")"
+            if [ "$said" = "$got" ]; then
+                off_checked=$((off_checked + 1))
+            else
+                echo "counts differ: $file says $said, imported $got"
+            fi
+        fi
     elif [ "$status" -eq 1 ] && [ ! -s "$out" ] && [ "$(wc -l <"$err")" -eq 1 ] &&
         grep -q '^korvan-cli: ' "$err"; then
         refused[$format]=$((${refused[$format]:-0} + 1))
@@ -60,5 +73,6 @@ printf '\n%-8s %9s %8s\n' format imported refused
 for format in stl obj ply off 3mf; do
     printf '%-8s %9d %8d\n' "$format" "${imported[$format]:-0}" "${refused[$format]:-0}"
 done
+echo "OFF files whose point and face counts match their header: $off_checked of ${imported[off]:-0}"
 echo "crashes, hangs and other failures: $bad"
 [ "$bad" -eq 0 ]
