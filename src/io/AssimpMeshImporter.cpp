@@ -452,7 +452,12 @@ bool AssimpMeshImporter::importsExtension(const std::string& filename) {
 std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& filename) {
     FileSystem::Status status;
     if (const std::error_code error = system_.status(filename, status)) {
-        return fail(error.message());
+        // The system's words as the end of a sentence: "no such file or directory".
+        std::string reason = error.message();
+        if (!reason.empty()) {
+            reason[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(reason[0])));
+        }
+        return fail(reason);
     }
     if (status.kind != FileSystem::Kind::Regular) {
         return fail("not a regular file");
