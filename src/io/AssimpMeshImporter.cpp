@@ -149,6 +149,14 @@ public:
     // The node's solid, or none when its meshes hold no polygons.
     std::shared_ptr<Transformed3d> build() {
         const bool join = !sharesCorners();
+        if (join) {
+            // At most one point per corner: no rehashing on the way.
+            size_t corners = 0;
+            for (unsigned m = 0; m < placed_.node->mNumMeshes; ++m) {
+                corners += meshAt(m).mNumVertices;
+            }
+            points_.reserve(corners);
+        }
         for (unsigned m = 0; m < placed_.node->mNumMeshes; ++m) {
             const aiMesh& mesh = meshAt(m);
             const auto firstPoint = static_cast<int32_t>(coordinates_.size() / 3) + 1;
