@@ -16,6 +16,7 @@
 #include <assimp/scene.h>
 #include <bit>
 #include <cctype>
+#include <cerrno>
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
@@ -31,6 +32,7 @@
 #include <string_view>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <unordered_map>
 #include <vector>
@@ -427,6 +429,15 @@ uint64_t dataBytesInUse() {
     return 0;
 }
 
+// The system's words as the end of a sentence: "no such file or directory".
+std::string reasonOf(const std::error_code& error) {
+    std::string reason = error.message();
+    if (!reason.empty()) {
+        reason[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(reason[0])));
+    }
+    return reason;
+}
+
 void writeAll(int into, std::span<const uint8_t> bytes) {
     while (!bytes.empty()) {
         const ssize_t written = ::write(into, bytes.data(), bytes.size());
@@ -460,12 +471,7 @@ bool AssimpMeshImporter::importsExtension(const std::string& filename) {
 std::optional<ObjectList> AssimpMeshImporter::importFile(const std::string& filename) {
     FileSystem::Status status;
     if (const std::error_code error = system_.status(filename, status)) {
-        // The system's words as the end of a sentence: "no such file or directory".
-        std::string reason = error.message();
-        if (!reason.empty()) {
-            reason[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(reason[0])));
-        }
-        return fail(reason);
+        return fail(reasonOf(error));
     }
     if (status.kind != FileSystem::Kind::Regular) {
         return fail("not a regular file");
@@ -499,7 +505,7 @@ std::optional<ObjectList>
 AssimpMeshImporter::readApart(const std::function<const aiScene*(Assimp::Importer&)>& read) {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0) {
-        return fail(std::generic_category().message(errno));
+        return fail(reasonOf({errno, std::generic_category()}));
     }
     const pid_t child = ::fork();
     if (child == 0) {
@@ -526,7 +532,7 @@ AssimpMeshImporter::readApart(const std::function<const aiScene*(Assimp::Importe
     const std::vector<uint8_t> answer = child > 0 ? readAll(ends[0]) : std::vector<uint8_t>();
     ::close(ends[0]);
     if (child < 0) {
-        return fail(std::generic_category().message(forkError));
+        return fail(reasonOf({forkError, std::generic_category()}));
     }
     int status = 0;
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
