@@ -2,7 +2,7 @@
 # A short run of every fuzzer, one of CI's steps: builds the "fuzz" preset (clang) in
 # build/fuzz and fuzzes each reader of outside input for 20 seconds from its seed files in
 # fuzz/corpus/<reader>: the mesh file, macros, the profile files of korvan-cli extrude, and
-# PLY and OBJ meshes.
+# PLY and OBJ meshes and the import of other programs' mesh files.
 # Needs clang and its fuzzer runtime, which scripts/install-deps.sh installs.
 # Findings are written to build/fuzz/ as crash-*, leak-*, timeout-* files.
 set -euo pipefail
@@ -22,7 +22,7 @@ cmake --build --preset fuzz -j 2
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 for run in "TavrinMeshIOFuzz mesh" "MacroFuzz macro -dict=fuzz/macro.dict" \
-    "ProfileFileFuzz profile" "PlyReaderFuzz ply" "ObjReaderFuzz obj"; do
+    "ProfileFileFuzz profile" "PlyReaderFuzz ply" "ObjReaderFuzz obj" "AssimpMeshImporterFuzz assimp"; do
     read -r harness corpus options <<<"$run"
     mkdir "$work/$corpus"
     cp "fuzz/corpus/$corpus"/* "$work/$corpus/"

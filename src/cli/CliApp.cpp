@@ -5,6 +5,7 @@
 #include "cli/HeadlessExtrusion.h"
 #include "cli/ProfileFile.h"
 #include "cli/SvgCanvas.h"
+#include "io/AssimpMeshImporter.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
 #include "io/MeshFiles.h"
@@ -15,6 +16,8 @@
 #include "macro/MessageText.h"
 #include "qt/QtCanvas.h"
 #include "render/ViewportRenderer.h"
+#include "scene/Solid3d.h"
+#include "scene/Transformed3d.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -194,7 +197,22 @@ void CliApp::render(const CliOptions& options) const {
 }
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
-    const auto objects = readScene(options.input, &TavrinMeshIO::countFile);
+    std::vector<TavrinMeshIO::ObjectCounts> objects;
+    if (AssimpMeshImporter::importsExtension(options.input)) {
+        AssimpMeshImporter importer(files_);
+        const auto imported = importer.importFile(options.input);
+        if (!imported) {
+            throw CliError("cannot read " + CliError::quoted(options.input) + ": " +
+                               importer.lastError(),
+                           CliError::failure);
+        }
+        for (const auto& object : *imported) {
+            const auto& solid = *object->getSolid();
+            objects.push_back({solid.getNextPointIndex() - 1, solid.GetFaceNum()});
+        }
+    } else {
+        objects = readScene(options.input, &TavrinMeshIO::countFile);
+    }
     out << "{\"file\": " << jsonString(options.input) << ", \"objects\": " << objects.size()
         << ", \"items\": [";
     for (size_t i = 0; i < objects.size(); ++i) {

@@ -307,7 +307,7 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
 
 std::string CliOptions::helpText() {
     return R"(Usage: korvan-cli render SCENE.tvm -o OUT [options]
-       korvan-cli info SCENE.tvm
+       korvan-cli info SCENE.tvm | MESH
        korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
        korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR] [--sandbox DIR]
        korvan-cli convert IN OUT [--ascii]
@@ -325,6 +325,9 @@ Commands:
   info     Writes one line of JSON on standard output: the file name as given,
            the number of objects and, per object, its points and faces:
              {"file": "a.tvm", "objects": 1, "items": [{"points": 20, "faces": 18}]}
+           A mesh file of another program (.stl, .off, .obj, .gltf, .glb, .3mf)
+           is imported as the solids it would add to a scene, and described
+           alike.
   extrude  Extrudes the profile in PROFILE.txt as the editor's Extrude dialog does
            with its controls set from the options, and saves the new solid to
            OUT.tvm (after the solids of --add-to, when given). PROFILE.txt holds

@@ -220,6 +220,10 @@ std::error_code oldTail(FileSystem& system, const std::string& file, uint64_t fr
 
 TavrinMeshIO::TavrinMeshIO() : system_(PosixFileSystem::instance()) {}
 
+std::optional<std::vector<uint8_t>> TavrinMeshIO::records(const ObjectList& objects) {
+    return encode(objects);
+}
+
 std::optional<std::vector<uint8_t>> TavrinMeshIO::savedContent(const ObjectList& solids,
                                                                const std::string& filename) {
     std::optional<std::vector<uint8_t>> content;

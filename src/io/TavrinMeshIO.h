@@ -75,6 +75,9 @@ public:
     // The reader's core, which OpenFile applies to the file's bytes: the objects the bytes
     // hold, or nothing when they are not a valid mesh file. Public for the fuzzer.
     static std::optional<ObjectList> parse(std::span<const uint8_t> bytes);
+    // The writer's core: the records of the objects as a file of them alone holds them, or
+    // nothing when a value breaks the rule above.
+    static std::optional<std::vector<uint8_t>> records(const ObjectList& objects);
 
 private:
     // The objects of the bytes, those without faces only with keepFaceless.

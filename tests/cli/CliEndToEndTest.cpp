@@ -184,6 +184,8 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
         {"info " + at("zero.tvm"), file + "zero.tvm': not a regular file\n"},
         {"info " + at("cut.tvm"),
          cannot("cannot read", "cut.tvm", ": the file might be corrupted or was improperly saved")},
+        {"info " + at("missing.stl"),
+         cannot("cannot read", "missing.stl", ": no such file or directory")},
         {"render " + scene_ + " -o " + at("full.png"),
          cannot("cannot write", "full.png", ": no space left on device")},
         {"info " + scene_, "korvan-cli: cannot write to standard output: no space left on device\n",

@@ -1,0 +1,208 @@
+#include "io/AssimpMeshImporter.h"
+
+#include "scene/Face3d.h"
+#include "scene/Solid3d.h"
+#include "scene/Transformed3d.h"
+#include "support/TempFolder.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Corners = std::vector<int32_t>;
+
+struct Imported {
+    std::optional<ObjectList> objects;
+    std::string error;
+};
+
+// Writes each (name, content) into the folder and imports the first.
+Imported importFiles(const TempFolder& folder,
+                     const std::vector<std::pair<std::string, std::string>>& files) {
+    for (const auto& [name, content] : files) {
+        std::ofstream(folder.file(name), std::ios::binary) << content;
+    }
+    AssimpMeshImporter importer;
+    Imported result{importer.importFile(folder.file(files.front().first)), ""};
+    result.error = importer.lastError();
+    return result;
+}
+
+std::array<float, 3> point(const Solid3d& solid, int32_t index) {
+    const Point4& p = solid.getPointRecord(index).coord;
+    return {p.x, p.y, p.z};
+}
+
+const char* const twoTriangles = R"(solid two
+facet normal 0 0 1
+outer loop
+vertex 0 0 0
+vertex 1 0 0
+vertex 1 1 0
+endloop
+endfacet
+facet normal 0 0 1
+outer loop
+vertex 0 0 0
+vertex 1 1 0
+vertex 0 1 0
+endloop
+endfacet
+endsolid two
+)";
+
+TEST(AssimpMeshImporter, StlCornersAtOnePlaceBecomeOneSharedPoint) {
+    TempFolder folder;
+    const auto [objects, error] = importFiles(folder, {{"two.stl", twoTriangles}});
+    ASSERT_TRUE(objects) << error;
+    ASSERT_EQ(objects->size(), 1u);
+    const Solid3d& solid = *objects->front()->getSolid();
+    EXPECT_EQ(solid.getNextPointIndex() - 1, 4);
+    ASSERT_EQ(solid.GetFaceNum(), 2);
+    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{1, 2, 3}));
+    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 3, 4}));
+    EXPECT_EQ(point(solid, 4), (std::array<float, 3>{0, 1, 0}));
+    // STL says nothing of surfaces: an extrusion's unticked values.
+    EXPECT_EQ(solid.faces[0]->DiffuseKg, 0.5f);
+    EXPECT_EQ(solid.faces[0]->SpecularN, 50.0f);
+}
+
+TEST(AssimpMeshImporter, OffKeepsItsPointsAndAQuadStaysOneFace) {
+    TempFolder folder;
+    const auto [objects, error] =
+        importFiles(folder, {{"quad.off", "OFF\n5 2 0\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n1 0 1\n"
+                                          "3 1 4 2\n4 0 1 2 3\n"}});
+    ASSERT_TRUE(objects) << error;
+    ASSERT_EQ(objects->size(), 1u);
+    const Solid3d& solid = *objects->front()->getSolid();
+    EXPECT_EQ(solid.getNextPointIndex() - 1, 5);
+    ASSERT_EQ(solid.GetFaceNum(), 2);
+    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{2, 5, 3}));
+    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 2, 3, 4}));
+    EXPECT_EQ(point(solid, 5), (std::array<float, 3>{1, 0, 1}));
+}
+
+TEST(AssimpMeshImporter, MaterialsBecomeCoefficientsOfTheOneSolidOfAnObject) {
+    TempFolder folder;
+    const auto [objects, error] = importFiles(
+        folder, {{"box.obj", "mtllib box.mtl\no box\nv 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\n"
+                             "usemtl red\nf 1 2 3\nusemtl shiny\nf 1 3 4\n"},
+                 {"box.mtl", "newmtl red\nKa 0.25 0 0\nKd 1 0 0\nKs 0 0 0\nNs 0\n"
+                             "newmtl shiny\nKa 0 0 0.5\nKd 0.25 0.5 0.75\nKs 0.2 0.4 0.6\n"
+                             "Ns 400\n"}});
+    ASSERT_TRUE(objects) << error;
+    ASSERT_EQ(objects->size(), 1u);
+    const Solid3d& solid = *objects->front()->getSolid();
+    ASSERT_EQ(solid.GetFaceNum(), 2);
+    const Face3d& red = *solid.faces[0];
+    EXPECT_EQ(red.DiffuseKr, 1.0f);
+    EXPECT_EQ(red.DiffuseKg, 0.0f);
+    EXPECT_EQ(red.AmbientKr, 0.25f);
+    EXPECT_EQ(red.SpecularK, 0.0f);
+    const Face3d& shiny = *solid.faces[1];
+    EXPECT_EQ(shiny.DiffuseKr, 0.25f);
+    EXPECT_EQ(shiny.DiffuseKg, 0.5f);
+    EXPECT_EQ(shiny.DiffuseKb, 0.75f);
+    EXPECT_EQ(shiny.AmbientKb, 0.5f);
+    EXPECT_FLOAT_EQ(shiny.SpecularK, 0.4f);
+    EXPECT_EQ(shiny.SpecularN, 100.0f); // the exponent bar's end
+}
+
+TEST(AssimpMeshImporter, MirroringNodeTurnsCornersSoFacesStillWindOutward) {
+    TempFolder folder;
+    // One triangle (0,0,0) (1,0,0) (0,1,0), mirrored in x, with a base colour.
+    const auto [objects, error] =
+        importFiles(folder, {{"mirror.gltf", R"({"asset": {"version": "2.0"}, "scene": 0,
+  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0, "scale": [-1, 1, 1]}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]}],
+  "materials": [{"pbrMetallicRoughness": {"baseColorFactor": [0.25, 0.5, 0.75, 1]}}],
+  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3",
+                 "min": [0, 0, 0], "max": [1, 1, 0]}],
+  "bufferViews": [{"buffer": 0, "byteLength": 36}],
+  "buffers": [{"byteLength": 36, "uri":
+    "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})"}});
+    ASSERT_TRUE(objects) << error;
+    ASSERT_EQ(objects->size(), 1u);
+    const Solid3d& solid = *objects->front()->getSolid();
+    ASSERT_EQ(solid.GetFaceNum(), 1);
+    EXPECT_EQ(point(solid, 2), (std::array<float, 3>{-1, 0, 0}));
+    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{3, 2, 1}));
+    EXPECT_EQ(solid.faces[0]->DiffuseKg, 0.5f);
+}
+
+TEST(AssimpMeshImporter, IndexedMeshesOfOneObjectKeepTheirPointsOneAfterTheOther) {
+    TempFolder folder;
+    // A square (0,0,0) (1,0,0) (1,1,0) (0,1,0) in two triangles, and a third triangle
+    // 1 2 4 in a second primitive, which the library makes a mesh with its own four points.
+    const auto [objects, error] =
+        importFiles(folder, {{"two.gltf", R"({"asset": {"version": "2.0"}, "scene": 0,
+  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "indices": 1},
+                             {"attributes": {"POSITION": 0}, "indices": 2}]}],
+  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3",
+                 "min": [0, 0, 0], "max": [1, 1, 0]},
+                {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"},
+                {"bufferView": 1, "byteOffset": 12, "componentType": 5123, "count": 3,
+                 "type": "SCALAR"}],
+  "bufferViews": [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48,
+                   "byteLength": 20}],
+  "buffers": [{"byteLength": 68, "uri": "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA="}]})"}});
+    ASSERT_TRUE(objects) << error;
+    ASSERT_EQ(objects->size(), 1u);
+    const Solid3d& solid = *objects->front()->getSolid();
+    EXPECT_EQ(solid.getNextPointIndex() - 1, 8);
+    ASSERT_EQ(solid.GetFaceNum(), 3);
+    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 3, 4}));
+    EXPECT_EQ(solid.faces[2]->getIndices(), (Corners{5, 6, 8}));
+}
+
+// A zip archive of one stored entry, "_rels/.rels" holding "x", whose checksum says 0: the
+// library's 3MF reader stops the whole process on the checksum error.
+std::string zipWithBadChecksum() {
+    using namespace std::string_literals;
+    const std::string entry = "\x14\0\0\0\0\0\x4b\x44\x79\x5d"s      // version, flags, stored, time
+                              "\0\0\0\0\x01\0\0\0\x01\0\0\0\x0b\0"s; // CRC 0, sizes 1, name
+    const std::string name = "_rels/.rels";
+    return "PK\x03\x04"s + entry + "\0\0"s + name + "x" + // local header
+           "PK\x01\x02\x14\x03"s + entry + "\0\0\0\0\0\0\0\0\0\0\x80\x01\0\0\0\0"s +
+           name +                                                     // central entry
+           "PK\x05\x06\0\0\0\0\x01\0\x01\0\x39\0\0\0\x2a\0\0\0\0\0"s; // end record
+}
+
+TEST(AssimpMeshImporter, BadFilesAreRefusedInOneLine) {
+    const struct {
+        const char* name;
+        std::string content;
+        const char* error; // the start of the message
+    } cases[] = {
+        {"nan.off", "OFF\n3 1 0\n0 0 0\nnan 0 0\n0 1 0\n3 0 1 2\n", "a point is not a finite"},
+        {"lines.obj", "v 0 0 0\nv 1 0 0\nl 1 2\n", "the file holds no polygons"},
+        {"cut.stl", std::string(80, 'x') + std::string("\x10\0\0\0", 4), "Failed to determine STL"},
+        {"empty.off", "", "File is empty"},
+        {"crc.3mf", zipWithBadChecksum(), "the library failed on it (Aborted)"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        TempFolder folder;
+        const auto [objects, error] = importFiles(folder, {{c.name, c.content}});
+        EXPECT_FALSE(objects);
+        EXPECT_TRUE(error.starts_with(c.error)) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+    }
+}
+
+TEST(AssimpMeshImporter, KnowsTheExtensionsItImports) {
+    EXPECT_TRUE(AssimpMeshImporter::importsExtension("part.STL"));
+    EXPECT_TRUE(AssimpMeshImporter::importsExtension("/a/b.c/part.3mf"));
+    EXPECT_FALSE(AssimpMeshImporter::importsExtension("scene.tvm"));
+    EXPECT_FALSE(AssimpMeshImporter::importsExtension("a.stl/part"));
+    AssimpMeshImporter importer;
+    const std::string_view stl = twoTriangles;
+    EXPECT_TRUE(
+        importer.importBytes({reinterpret_cast<const uint8_t*>(stl.data()), stl.size()}, ".STL"));
+    EXPECT_FALSE(importer.importBytes({}, ".ply"));
+    EXPECT_EQ(importer.lastError(), "not a format the importer reads");
+}
+
+} // namespace
