@@ -125,21 +125,32 @@ TEST(ListChange, UndoFindsAnInsertByItsPointerPutsARemovalBackAndMakesItCurrentA
     EXPECT_EQ(document.profiles, (std::vector{p, q}));
 }
 
-TEST(FaceEdit, KeepsOnlyTheChangedFacesBitForBit) {
+TEST(FaceEdit, KeepsOnlyTheChangedFacesAndRestoresThemExactly) {
     SceneDocument document;
     const auto cube = makeCube();
     Face3d& face = *cube->faces[2];
+    const std::vector<int32_t> corners = face.getIndices();
     auto before = FaceEdit::capture(cube->faces);
     EXPECT_EQ(FaceEdit::since(before), nullptr);
     face.DiffuseKg = 0.5f;
+    face.SetPoints({1, 2, 3});
     const auto one = FaceEdit::since(before);
     before = FaceEdit::capture(cube->faces);
     face.SpecularN = -0.0f;
     cube->faces[4]->AmbientKb = 0.25f;
     const auto two = FaceEdit::since(before);
     EXPECT_LT(one->byteSize(), two->byteSize());
+
     two->undo(document);
     EXPECT_FALSE(std::signbit(face.SpecularN));
+    one->undo(document);
+    EXPECT_EQ(face.DiffuseKg, 0.0f);
+    EXPECT_EQ(face.getIndices(), corners);
+    EXPECT_EQ(face.NumPts, 4);
+    EXPECT_EQ(cube->faces[4]->AmbientKb, 0.0f);
+    one->redo(document);
+    EXPECT_EQ(face.DiffuseKg, 0.5f);
+    EXPECT_EQ(face.NumPts, 3);
 }
 
 TEST(WorkplaneEdit, EachValueMakesAnEditAndUndoRestoresThemAll) {
