@@ -42,7 +42,8 @@ TEST(EditCommands, UndoAndRedoTakeAStepBackAndForthNamingIt) {
     EXPECT_FALSE(w.item("mnuEditUndo").isEnabled());
     EXPECT_EQ(w.item("mnuEditRedo").getStatusTip(), "Redo Delete Solid 1");
 
-    w.choose(redo); // what it does and says: the monkey's
+    w.choose(redo); // what it does to the solids: the monkey's
+    EXPECT_EQ(w.frame.status(), "Redid Delete Solid 1");
     EXPECT_EQ(w.item("mnuEditRedo").getStatusTip(), "Nothing to redo");
 }
 
