@@ -74,7 +74,7 @@ TEST(FileCommands, ExportSavesTheOnlyViewportOrAsksUntilTheAnswerNamesOne) {
         w.choose(fileExport);
     }
     EXPECT_EQ(w.files.requests()[0].filter, "Devide Dependent Bitmap(*.bmp)|*.bmp");
-    EXPECT_TRUE(w.prompts.inputPrompts().empty());
+    EXPECT_TRUE(w.prompts.inputBoxes().empty());
     EXPECT_EQ(w.canvases[3].savedBitmaps(),
               (std::vector<std::string>{"scene.bmp", "scene.BMP.bmp", "a b   .bmp"}));
 
@@ -84,7 +84,7 @@ TEST(FileCommands, ExportSavesTheOnlyViewportOrAsksUntilTheAnswerNamesOne) {
         w.prompts.queueInput(answer);
     }
     w.choose(fileExport);
-    EXPECT_EQ(w.prompts.inputPrompts().size(), 8u);
+    EXPECT_EQ(w.prompts.inputBoxes().size(), 8u);
     // 2.5 - 1 rounds to 2, the third viewport.
     EXPECT_EQ(w.canvases[2].savedBitmaps(), (std::vector<std::string>{"four.bmp"}));
     // Cancelling the question, or an empty answer, saves nothing.

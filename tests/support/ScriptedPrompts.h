@@ -37,7 +37,6 @@ public:
     }
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) override {
-        inputPrompts_.push_back(prompt);
         inputBoxes_.push_back(InputBox{prompt, title, defaultText});
         return inputs_.take(std::nullopt);
     }
@@ -46,12 +45,10 @@ public:
     void queueInput(std::optional<std::string> input) { inputs_.push(std::move(input)); }
 
     const std::vector<Message>& messages() const { return messages_; }
-    const std::vector<std::string>& inputPrompts() const { return inputPrompts_; }
     // Every input box asked, with its title and default text.
     const std::vector<InputBox>& inputBoxes() const { return inputBoxes_; }
     void forget() {
         messages_.clear();
-        inputPrompts_.clear();
         inputBoxes_.clear();
     }
 
@@ -59,6 +56,5 @@ private:
     AnswerQueue<MessageAnswer> answers_;
     AnswerQueue<std::optional<std::string>> inputs_;
     std::vector<Message> messages_;
-    std::vector<std::string> inputPrompts_;
     std::vector<InputBox> inputBoxes_;
 };
