@@ -143,7 +143,7 @@ std::vector<int> parseSolidNumbers(const std::string& value) {
         const char* first = value.data() + start;
         const char* last = value.data() + comma;
         const auto [end, error] = std::from_chars(first, last, number);
-        if (first == last || error != std::errc() || end != last || number < 1) {
+        if (error != std::errc() || end != last || number < 1) {
             throw badValue("--selected", value, "solid numbers from 1, such as 1,3");
         }
         numbers.push_back(number);
