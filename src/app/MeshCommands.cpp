@@ -18,12 +18,11 @@ namespace {
 const std::string importTitle = "Import Mesh";
 const std::string exportTitle = "Export Mesh";
 
-const std::string importFilter =
-    "Meshes (*.obj;*.ply;*.tvm)|*.obj;*.ply;*.tvm|Wavefront OBJ (*.obj)|*.obj|"
-    "Polygon File (*.ply)|*.ply|Tavrin Mesh File(*.tvm)|*.tvm";
-const std::string exportFilter = "Wavefront OBJ (*.obj)|*.obj|Polygon File (*.ply)|*.ply|"
-                                 "Binary STL (*.stl)|*.stl|3D Manufacturing Format (*.3mf)|*.3mf|"
-                                 "Tavrin Mesh File(*.tvm)|*.tvm";
+// The Qt chooser adds each pattern to its description, as "Meshes (*.obj *.ply *.tvm)".
+const std::string importFilter = "Meshes|*.obj;*.ply;*.tvm|Wavefront OBJ|*.obj|Polygon File|*.ply|"
+                                 "Tavrin Mesh File|*.tvm";
+const std::string exportFilter = "Wavefront OBJ|*.obj|Polygon File|*.ply|Binary STL|*.stl|"
+                                 "3D Manufacturing Format|*.3mf|Tavrin Mesh File|*.tvm";
 
 std::string withoutFolder(const std::string& path) {
     return path.substr(path.find_last_of('/') + 1); // npos + 1 is 0
