@@ -26,6 +26,8 @@ MainMenu::MainMenu() {
     file.add("mnuFileOpen", "&Open");
     file.add("mnuFileSave", "&Save");
     file.add("mnuFileSaveAs", "Save &As...").setShortcuts({"Ctrl+Shift+S"});
+    file.add("mnuFileImport", "&Import...");
+    file.add("mnuFileExportMesh", "Export &Mesh...");
     file.add("mnuFileExport", "&Export To Bitmap");
     file.add("mnuFileExit", "E&xit");
 

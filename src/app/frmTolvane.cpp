@@ -8,6 +8,7 @@
 #include "app/ViewCommands.h"
 #include "app/WorkplaneCommands.h"
 #include "app/frmMouseSensivity.h"
+#include "io/PosixFileSystem.h"
 #include "platform/Canvas.h"
 #include "platform/ModalHost.h"
 #include "platform/WindowFrame.h"
@@ -41,6 +42,9 @@ void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChoose
     fileCommands.emplace(*this, document, selection, TreeView1, meshIO, viewports, *fileDialog,
                          frame);
     fileCommands->bind(menus);
+    meshCommands.emplace(*this, document, selection, TreeView1, PosixFileSystem::instance(),
+                         *fileDialog);
+    meshCommands->bind(menus);
     // The dialogs of these commands have colour swatches.
     WorkplaneCommands::bind(menus, *this, modalHost, colors, document, TreeView1);
     selectedItemCommands.emplace(*this, document, selection, TreeView1, modalHost, colors,

@@ -3,6 +3,7 @@
 #include "app/EditorPort.h"
 #include "app/FileCommands.h"
 #include "app/MainMenu.h"
+#include "app/MeshCommands.h"
 #include "app/MouseDispatch.h"
 #include "app/ProfileCommands.h"
 #include "app/SceneDocument.h"
@@ -128,5 +129,6 @@ private:
     WindowFrame* windowFrame = nullptr;
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
+    std::optional<MeshCommands> meshCommands;
     std::optional<SelectedItemCommands> selectedItemCommands;
 };

@@ -327,6 +327,19 @@ void CliApp::convert(const CliOptions& options) const {
                            (*error.what() != 0 ? error.what() : CliError::reason(error.code())),
                        CliError::failure);
     }
+    if (!options.selected.empty()) {
+        ObjectList chosen;
+        for (const int number : options.selected) {
+            if (static_cast<size_t>(number) > objects.size()) {
+                throw CliError("--selected " + std::to_string(number) + ": " +
+                                   CliError::quoted(options.input) + " has " +
+                                   std::to_string(objects.size()) + " solids",
+                               CliError::usage);
+            }
+            chosen.push_back(objects[static_cast<size_t>(number) - 1]);
+        }
+        objects = std::move(chosen);
+    }
     try {
         meshFiles.save(objects, options.output, options.ascii);
     } catch (const MeshFiles::Error& error) {

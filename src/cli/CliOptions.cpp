@@ -133,19 +133,41 @@ CliOptions::Extrusion::Orientation parseOrientation(const std::string& value) {
     throw badValue("--mode", value, "in, out or split");
 }
 
+// "1,3": solid numbers from 1, as many as given, each at most the largest int.
+std::vector<int> parseSolidNumbers(const std::string& value) {
+    std::vector<int> numbers;
+    size_t start = 0;
+    while (true) {
+        const size_t comma = std::min(value.find(',', start), value.size());
+        int number = 0;
+        const char* first = value.data() + start;
+        const char* last = value.data() + comma;
+        const auto [end, error] = std::from_chars(first, last, number);
+        if (error != std::errc() || end != last || number < 1) {
+            throw badValue("--selected", value, "solid numbers from 1, such as 1,3");
+        }
+        numbers.push_back(number);
+        if (comma == value.size()) {
+            return numbers;
+        }
+        start = comma + 1;
+    }
+}
+
 void checkConversion(const CliOptions& options) {
     using Format = MeshFiles::Format;
     const std::optional<Format> in = MeshFiles::formatOf(options.input);
-    if (!in || *in == Format::Stl) {
+    if (!in || !MeshFiles::isReadable(*in)) {
         throw usageError("input file '" + options.input + "' must end in .tvm, .obj or .ply");
     }
     if (options.output.empty()) {
-        throw usageError("convert needs an output file: OUT.tvm, OUT.obj, OUT.ply or OUT.stl");
+        throw usageError(
+            "convert needs an output file: OUT.tvm, OUT.obj, OUT.ply, OUT.stl or OUT.3mf");
     }
     const std::optional<Format> out = MeshFiles::formatOf(options.output);
     if (!out) {
         throw usageError("output file '" + options.output +
-                         "' must end in .tvm, .obj, .ply or .stl");
+                         "' must end in .tvm, .obj, .ply, .stl or .3mf");
     }
     if (options.ascii && *out != Format::Stl) {
         throw usageError("--ascii applies to an .stl output only");
@@ -247,19 +269,22 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
         if (options.command == Command::Info) {
             throw usageError("info takes no options, but was given '" + arg + "'");
         }
-        if (convert) {
-            if (arg != "--ascii") {
-                throw usageError("unknown option '" + arg + "' (try --help)");
-            }
-            options.ascii = true;
-            continue;
-        }
         const auto value = [&]() -> const std::string& {
             if (i + 1 >= args.size()) {
                 throw usageError("option " + arg + " needs a value");
             }
             return args[++i];
         };
+        if (convert) {
+            if (arg == "--ascii") {
+                options.ascii = true;
+            } else if (arg == "--selected") {
+                options.selected = parseSolidNumbers(value());
+            } else {
+                throw usageError("unknown option '" + arg + "' (try --help)");
+            }
+            continue;
+        }
         if (arg == "-o") {
             options.output = value();
         } else if (options.command == Command::Replay) {
@@ -310,7 +335,7 @@ std::string CliOptions::helpText() {
        korvan-cli info SCENE.tvm | MESH
        korvan-cli extrude PROFILE.txt -o OUT.tvm [extrusion options]
        korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR] [--sandbox DIR]
-       korvan-cli convert IN OUT [--ascii]
+       korvan-cli convert IN OUT [--ascii] [--selected N,...]
        korvan-cli -h | --help
 
 Draws, describes, makes or converts Tavrin Mesh Files (.tvm) without opening the
@@ -349,7 +374,7 @@ Commands:
            instead (the file of the same name in DIR), reading and writing
            nothing elsewhere.
   convert  Reads the solids of IN (.tvm, .obj with its .mtl, or .ply) and
-           writes them to OUT (.tvm, .obj, .ply or .stl), the format chosen by
+           writes them to OUT (.tvm, .obj, .ply, .stl or .3mf), the format chosen by
            each name's extension in any case. Every solid keeps its points in
            their order and its faces with their corners; .obj and .ply keep
            each face's eight surface coefficients exactly (as materials Ka, Kd,
@@ -358,7 +383,9 @@ Commands:
            back to .tvm gives the same file. Each .obj object ("o") and each
            .ply file is one solid, unless the .ply was written by convert.
            .stl (binary; --ascii for text) holds triangles only: each face is
-           fanned from its first corner.
+           fanned from its first corner. .3mf holds the triangles of the same
+           fans in millimetres, one object per solid, each triangle in its
+           face's diffuse colour.
 
 Options of render (they may come before or after SCENE.tvm):
   -o OUT         output file ending in .png, .bmp or .svg (required)
@@ -394,8 +421,10 @@ and --transform as it judges what is typed into it):
   --specular-n V     specular exponent V, 0 to 100 (default 50)
   --add-to IN.tvm    a scene whose solids come first in OUT.tvm
 
-Option of convert:
+Options of convert:
   --ascii            write the .stl output as text
+  --selected N,...   write only these solids of IN, numbered from 1 in IN's
+                     order, such as 1,3
 
   -h, --help     show this text and exit
 
@@ -410,7 +439,8 @@ Exit status:
      to --svg-dir or --sandbox is none, or an output or standard output cannot
      be written; every existing output is then left as it was
   2  bad command line: unknown command or option, bad or missing value,
-     missing input or output, wrong output extension
+     missing input or output, wrong output extension, a --selected number
+     beyond the solids of IN
 Every error is reported as one line "korvan-cli: ..." on standard error. What the
 extrusion dialog reports without refusing (a normal parallel to the y axis, which
 its vectors cannot convert) follows as "korvan-cli: warning: ..." lines.

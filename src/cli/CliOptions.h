@@ -47,7 +47,8 @@ struct CliOptions {
     bool noBackface = false;
     bool noGrid = false;
     bool noAxes = false;
-    bool ascii = false; // convert: an .stl output in ASCII
+    bool ascii = false;        // convert: an .stl output in ASCII
+    std::vector<int> selected; // convert: the solids to write (from 1), or all when empty
     Extrusion extrusion;
 
     // The arguments after the program name. Throws CliError with the usage status for

@@ -9,6 +9,7 @@
 #include "io/PlyReader.h"
 #include "io/PlyWriter.h"
 #include "io/StlWriter.h"
+#include "io/ThreeMfWriter.h"
 
 #include <algorithm>
 #include <cctype>
@@ -37,7 +38,8 @@ std::optional<MeshFiles::Format> MeshFiles::formatOf(const std::string& path) {
     for (const auto& [text, format] : {std::pair{".tvm", Format::Tvm},
                                        {".obj", Format::Obj},
                                        {".ply", Format::Ply},
-                                       {".stl", Format::Stl}}) {
+                                       {".stl", Format::Stl},
+                                       {".3mf", Format::ThreeMf}}) {
         if (extension == text) {
             return format;
         }
@@ -59,7 +61,7 @@ std::vector<uint8_t> MeshFiles::read(const std::string& path) const {
 
 ObjectList MeshFiles::open(const std::string& path) const {
     const std::optional<Format> format = formatOf(path);
-    if (!format || *format == Format::Stl) {
+    if (!format || !isReadable(*format)) {
         throw Error(path, std::make_error_code(std::errc::invalid_argument));
     }
     try {
@@ -85,6 +87,7 @@ ObjectList MeshFiles::open(const std::string& path) const {
         case Format::Ply:
             return PlyReader::parse(bytes);
         case Format::Stl:
+        case Format::ThreeMf:
             break;
         }
     } catch (const MeshFormatError& error) {
@@ -130,6 +133,12 @@ void MeshFiles::save(const ObjectList& objects, const std::string& path, bool as
             break;
         case Format::Stl: {
             const std::vector<uint8_t> content = StlWriter::encode(objects, ascii);
+            error = content.empty() ? std::make_error_code(std::errc::file_too_large)
+                                    : overwriter.overwrite(path, content);
+            break;
+        }
+        case Format::ThreeMf: {
+            const std::vector<uint8_t> content = ThreeMfWriter::encode(objects);
             error = content.empty() ? std::make_error_code(std::errc::file_too_large)
                                     : overwriter.overwrite(path, content);
             break;

@@ -9,13 +9,13 @@
 #include <system_error>
 
 // Meshes in the formats of other programs, and the program's own, by the file name's
-// extension (any case): .tvm, .obj (with its .mtl) and .ply are read; those and .stl are
-// written. Every file is read whole through the bounded reader and written through
+// extension (any case): .tvm, .obj (with its .mtl) and .ply are read; those, .stl and .3mf
+// are written. Every file is read whole through the bounded reader and written through
 // FileOverwriter, so that a failed write leaves no partial file and an old file as it was
 // (an .obj and its .mtl are replaced as one).
 class MeshFiles {
 public:
-    enum class Format { Tvm, Obj, Ply, Stl };
+    enum class Format { Tvm, Obj, Ply, Stl, ThreeMf };
 
     // A failure: the file at fault (an .obj's library, say), the system's error or a
     // FileError, and for FileError::corrupt what is wrong with the content ("line 3: ...").
@@ -37,6 +37,10 @@ public:
     // The material library written beside an .obj file: its name with the extension .mtl.
     static std::string libraryOf(const std::string& objPath);
 
+    // Whether open reads the format.
+    static bool isReadable(Format format) {
+        return format != Format::Stl && format != Format::ThreeMf;
+    }
     // The objects of a .tvm, .obj or .ply file; throws Error.
     ObjectList open(const std::string& path) const;
     // Writes the objects in the format of the name's extension (.stl in ASCII with ascii);

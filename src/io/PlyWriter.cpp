@@ -1,6 +1,6 @@
 #include "io/PlyWriter.h"
 
-#include "geometry/Rounding.h"
+#include "io/ColorChannel.h"
 #include "io/FaceCoefficients.h"
 #include "io/MeshPoints.h"
 #include "io/PlyReader.h"
@@ -24,10 +24,6 @@ public:
 
     std::vector<uint8_t> bytes;
 };
-
-uint8_t channel(float coefficient) {
-    return static_cast<uint8_t>(std::clamp(Rounding::toInt32(coefficient * 255.0), 0, 255));
-}
 
 } // namespace
 
@@ -81,9 +77,9 @@ std::vector<uint8_t> PlyWriter::encode(const ObjectList& objects) {
                 out.uint32(firstPoint + static_cast<uint32_t>(index - 1));
             }
             const FaceCoefficients::Values k = FaceCoefficients::of(*face);
-            out.uint8(channel(k[3]));
-            out.uint8(channel(k[4]));
-            out.uint8(channel(k[5]));
+            out.uint8(colorChannel(k[3]));
+            out.uint8(colorChannel(k[4]));
+            out.uint8(colorChannel(k[5]));
             for (const float value : k) {
                 out.float32(value);
             }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStringList>
 #include <string_view>
 
@@ -25,8 +26,22 @@ QStringList nameFilters(const std::string& filter) {
     return filters;
 }
 
-// "Save File", and "Save File As".
-constexpr std::string_view saveTitle = "Save File";
+// The dialogs that save: "Save File", "Save File As", and the mesh export.
+bool savesTo(const std::string& title) {
+    return title.starts_with(std::string_view("Save File")) || title == "Export Mesh";
+}
+
+// A saved name without an extension takes that of the chosen filter when the filter has one
+// pattern "*.ext", so that the filter picks the format.
+QString withFilterExtension(const QString& path, const QString& nameFilter) {
+    const qsizetype open = nameFilter.lastIndexOf('(');
+    const QString pattern = nameFilter.mid(open + 1).chopped(1);
+    if (open < 0 || !pattern.startsWith("*.") || pattern.contains(' ') ||
+        !QFileInfo(path).suffix().isEmpty()) {
+        return path;
+    }
+    return path + pattern.mid(1);
+}
 
 } // namespace
 
@@ -37,7 +52,8 @@ std::string QtFileChooser::chooseFile(const std::string& title, const std::strin
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     // The program opens and saves through the one dialog and tells the two apart only by
     // the title it gives; a save shows the desktop's save dialog, whose button says Save.
-    if (title.starts_with(saveTitle)) {
+    const bool saving = savesTo(title);
+    if (saving) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
     }
     const QStringList filters = nameFilters(filter);
@@ -47,5 +63,7 @@ std::string QtFileChooser::chooseFile(const std::string& title, const std::strin
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return "";
     }
-    return dialog.selectedFiles().constFirst().toStdString();
+    const QString chosen = dialog.selectedFiles().constFirst();
+    return (saving ? withFilterExtension(chosen, dialog.selectedNameFilter()) : chosen)
+        .toStdString();
 }

@@ -228,6 +228,12 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
          "korvan-cli: --ascii applies to an .stl output only\n", 2},
         {"convert " + at("out.stl") + " " + at("out.tvm"),
          cannot("input file", "out.stl", " must end in .tvm, .obj or .ply"), 2},
+        {"convert " + scene_ + " " + at("out.tvm") + " --selected 2,3",
+         "korvan-cli: --selected 3: '" + path_ + "' has 2 solids\n", 2},
+        {"convert " + scene_ + " " + at("out.tvm") + " --selected 2,0",
+         "korvan-cli: invalid value '2,0' for --selected (expected solid numbers from 1, such as "
+         "1,3)\n",
+         2},
     };
     for (const Case& c : cases) {
         const Outcome outcome = run(c.arguments, c.out, memoryLimit);
@@ -275,6 +281,20 @@ TEST_F(CliEndToEnd, ConvertsTwistedRecolouredSolidsThroughObjAndPlyBackToTheSame
         ++facets;
     }
     EXPECT_EQ(facets, triangles);
+}
+
+TEST_F(CliEndToEnd, ConvertSelectedWritesOnlyTheNamedSolidsInTheGivenOrder) {
+    ASSERT_EQ(run("convert " + scene_ + " " + at("second.tvm") + " --selected 2").status, 0);
+    ASSERT_EQ(run("convert " + scene_ + " " + at("swapped.tvm") + " --selected 2,1").status, 0);
+    const auto scene = openScene(path_);
+    const auto second = openScene(dir_ / "second.tvm");
+    const auto swapped = openScene(dir_ / "swapped.tvm");
+    ASSERT_EQ(second.size(), 1u);
+    ASSERT_EQ(swapped.size(), 2u);
+    EXPECT_EQ(second[0]->getPoints()[0]->getRecord().coord.x,
+              scene[1]->getPoints()[0]->getRecord().coord.x);
+    EXPECT_EQ(swapped[0]->getPoints()[0]->getRecord().coord.x,
+              scene[1]->getPoints()[0]->getRecord().coord.x);
 }
 
 TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {
