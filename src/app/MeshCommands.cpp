@@ -19,8 +19,10 @@ const std::string importTitle = "Import Mesh";
 const std::string exportTitle = "Export Mesh";
 
 // The Qt chooser adds each pattern to its description, as "Meshes (*.obj *.ply *.tvm)".
-const std::string importFilter = "Meshes|*.obj;*.ply;*.tvm|Wavefront OBJ|*.obj|Polygon File|*.ply|"
-                                 "Tavrin Mesh File|*.tvm";
+const std::string importFilter =
+    "Meshes|*.obj;*.ply;*.tvm;*.stl;*.off;*.gltf;*.glb;*.3mf|Wavefront OBJ|*.obj|"
+    "Polygon File|*.ply|STL|*.stl|Object File Format|*.off|glTF 2.0|*.gltf;*.glb|"
+    "3D Manufacturing Format|*.3mf|Tavrin Mesh File|*.tvm";
 const std::string exportFilter = "Wavefront OBJ|*.obj|Polygon File|*.ply|Binary STL|*.stl|"
                                  "3D Manufacturing Format|*.3mf|Tavrin Mesh File|*.tvm";
 

@@ -5,7 +5,6 @@
 #include "cli/HeadlessExtrusion.h"
 #include "cli/ProfileFile.h"
 #include "cli/SvgCanvas.h"
-#include "io/AssimpMeshImporter.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
 #include "io/MeshFiles.h"
@@ -198,15 +197,9 @@ void CliApp::render(const CliOptions& options) const {
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
     std::vector<TavrinMeshIO::ObjectCounts> objects;
-    if (AssimpMeshImporter::importsExtension(options.input)) {
-        AssimpMeshImporter importer(files_);
-        const auto imported = importer.importFile(options.input);
-        if (!imported) {
-            throw CliError("cannot read " + CliError::quoted(options.input) + ": " +
-                               importer.lastError(),
-                           CliError::failure);
-        }
-        for (const auto& object : *imported) {
+    if (MeshFiles::formatOf(options.input) != MeshFiles::Format::Tvm &&
+        MeshFiles::isReadable(options.input)) {
+        for (const auto& object : openMesh(options.input)) {
             const auto& solid = *object->getSolid();
             objects.push_back({solid.getNextPointIndex() - 1, solid.GetFaceNum()});
         }
@@ -315,11 +308,9 @@ void CliApp::replay(const CliOptions& options) const {
     }
 }
 
-void CliApp::convert(const CliOptions& options) const {
-    const MeshFiles meshFiles(files_);
-    ObjectList objects;
+ObjectList CliApp::openMesh(const std::string& path) const {
     try {
-        objects = meshFiles.open(options.input);
+        return MeshFiles(files_).open(path);
     } catch (const MeshFiles::Error& error) {
         const bool content = error.code() == FileError::corrupt;
         throw CliError((content ? "cannot read " : "cannot open ") +
@@ -327,6 +318,11 @@ void CliApp::convert(const CliOptions& options) const {
                            (*error.what() != 0 ? error.what() : CliError::reason(error.code())),
                        CliError::failure);
     }
+}
+
+void CliApp::convert(const CliOptions& options) const {
+    const MeshFiles meshFiles(files_);
+    ObjectList objects = openMesh(options.input);
     if (!options.selected.empty()) {
         ObjectList chosen;
         for (const int number : options.selected) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/CliOptions.h"
+#include "io/TavrinMeshIO.h"
 #include "platform/FileSystem.h"
 
 #include <cstdint>
@@ -32,6 +33,8 @@ private:
     void extrude(const CliOptions& options, std::ostream& err) const;
     void replay(const CliOptions& options) const;
     void convert(const CliOptions& options) const;
+    // The objects of a mesh file of any readable format; a failure is a CliError.
+    ObjectList openMesh(const std::string& path) const;
     // Throws unless folder is one; option names where it came from.
     void requireFolder(const std::string& folder, const std::string& option) const;
 

@@ -156,9 +156,9 @@ std::vector<int> parseSolidNumbers(const std::string& value) {
 
 void checkConversion(const CliOptions& options) {
     using Format = MeshFiles::Format;
-    const std::optional<Format> in = MeshFiles::formatOf(options.input);
-    if (!in || !MeshFiles::isReadable(*in)) {
-        throw usageError("input file '" + options.input + "' must end in .tvm, .obj or .ply");
+    if (!MeshFiles::isReadable(options.input)) {
+        throw usageError("input file '" + options.input +
+                         "' must end in .tvm, .obj, .ply, .stl, .off, .gltf, .glb or .3mf");
     }
     if (options.output.empty()) {
         throw usageError(

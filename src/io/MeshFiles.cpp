@@ -1,5 +1,6 @@
 #include "io/MeshFiles.h"
 
+#include "io/AssimpMeshImporter.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/FileOverwriter.h"
@@ -59,10 +60,28 @@ std::vector<uint8_t> MeshFiles::read(const std::string& path) const {
     return bytes;
 }
 
-ObjectList MeshFiles::open(const std::string& path) const {
+bool MeshFiles::isReadable(const std::string& path) {
     const std::optional<Format> format = formatOf(path);
-    if (!format || !isReadable(*format)) {
+    return (format && *format != Format::Stl && *format != Format::ThreeMf) ||
+           AssimpMeshImporter::importsExtension(path);
+}
+
+ObjectList MeshFiles::open(const std::string& path) const {
+    if (!isReadable(path)) {
         throw Error(path, std::make_error_code(std::errc::invalid_argument));
+    }
+    const std::optional<Format> format = formatOf(path);
+    if (!format || *format == Format::Stl || *format == Format::ThreeMf) {
+        // A file that cannot be opened is the system's error, as for the formats read here.
+        FileSystem::Status status;
+        if (const std::error_code error = system_.status(path, status)) {
+            throw Error(path, error);
+        }
+        AssimpMeshImporter importer(system_);
+        if (auto objects = importer.importFile(path)) {
+            return *std::move(objects);
+        }
+        throw Error(path, FileError::corrupt, importer.lastError());
     }
     try {
         const std::vector<uint8_t> bytes = read(path);

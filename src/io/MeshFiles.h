@@ -37,11 +37,11 @@ public:
     // The material library written beside an .obj file: its name with the extension .mtl.
     static std::string libraryOf(const std::string& objPath);
 
-    // Whether open reads the format.
-    static bool isReadable(Format format) {
-        return format != Format::Stl && format != Format::ThreeMf;
-    }
-    // The objects of a .tvm, .obj or .ply file; throws Error.
+    // Whether open reads the file, by its name: .tvm, .obj and .ply by the program's own
+    // readers, which keep a file's points and faces in their order, and the other formats of
+    // AssimpMeshImporter (.stl, .off, .gltf, .glb, .3mf) through the library.
+    static bool isReadable(const std::string& path);
+    // The objects of a file isReadable names; throws Error.
     ObjectList open(const std::string& path) const;
     // Writes the objects in the format of the name's extension (.stl in ASCII with ascii);
     // throws Error.
