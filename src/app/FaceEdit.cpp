@@ -1,8 +1,8 @@
 #include "app/FaceEdit.h"
 
-#include "app/FaceCoefficients.h"
 #include "app/SameBits.h"
 #include "scene/Face3d.h"
+#include "scene/FaceCoefficients.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ FaceEdit::State stateOf(const Face3d& face) {
 }
 
 void restore(Face3d& face, const FaceEdit::State& state) {
-    FaceCoefficients::write(face, state.coefficients);
+    FaceCoefficients::set(face, state.coefficients);
     face.SetPoints(state.indices);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/DocumentCommand.h"
-#include "app/FaceCoefficients.h"
+#include "scene/FaceCoefficients.h"
 
 #include <cstdint>
 #include <memory>
@@ -20,7 +20,7 @@ public:
     // What a dialog may change of one face: the ambient, diffuse and specular coefficients,
     // and the corners.
     struct State {
-        FaceCoefficients::Set coefficients{};
+        FaceCoefficients::Values coefficients{};
         std::vector<int32_t> indices;
     };
     struct Captured {

@@ -27,7 +27,7 @@ SolidEdit::Palette paletteOf(const Solid3d& solid) {
     palette.faces.reserve(solid.faces.size());
     std::unordered_map<Bits, uint32_t, BitsHash> places;
     for (const auto& face : solid.faces) {
-        const FaceCoefficients::Set set = FaceCoefficients::of(*face);
+        const FaceCoefficients::Values set = FaceCoefficients::of(*face);
         // Neighbouring faces mostly share their set.
         if (!palette.faces.empty() && sameBits(palette.sets[palette.faces.back()], set)) {
             palette.faces.push_back(palette.faces.back());
@@ -83,7 +83,7 @@ void SolidEdit::restore(const Palette& coefficients) const {
     const FaceList& faces = solid_->faces;
     const size_t count = std::min(faces.size(), coefficients.faces.size());
     for (size_t i = 0; i < count; ++i) {
-        FaceCoefficients::write(*faces[i], coefficients.sets[coefficients.faces[i]]);
+        FaceCoefficients::set(*faces[i], coefficients.sets[coefficients.faces[i]]);
     }
     if (reversed_) {
         for (const auto& face : faces) {
@@ -103,7 +103,7 @@ void SolidEdit::redo(SceneDocument& /*document*/) {
 size_t SolidEdit::byteSize() const {
     size_t bytes = sizeof(*this);
     for (const Palette* palette : {&before_, &after_}) {
-        bytes += palette->sets.capacity() * sizeof(FaceCoefficients::Set) +
+        bytes += palette->sets.capacity() * sizeof(FaceCoefficients::Values) +
                  palette->faces.capacity() * sizeof(uint32_t);
     }
     return bytes;

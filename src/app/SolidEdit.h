@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/DocumentCommand.h"
-#include "app/FaceCoefficients.h"
+#include "scene/FaceCoefficients.h"
 
 #include <cstdint>
 #include <memory>
@@ -24,7 +24,7 @@ public:
     // The coefficients of every face in list order, each distinct set (compared bit for
     // bit) once.
     struct Palette {
-        std::vector<FaceCoefficients::Set> sets;
+        std::vector<FaceCoefficients::Values> sets;
         std::vector<uint32_t> faces; // the place in sets of each face's coefficients
     };
     struct Snapshot {

@@ -1,8 +1,8 @@
 #include "io/ObjReader.h"
 
-#include "io/FaceCoefficients.h"
 #include "io/MeshFormatError.h"
 #include "io/StorableValue.h"
+#include "scene/FaceCoefficients.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 

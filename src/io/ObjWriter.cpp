@@ -1,8 +1,8 @@
 #include "io/ObjWriter.h"
 
-#include "io/FaceCoefficients.h"
 #include "io/MeshPoints.h"
 #include "io/MeshText.h"
+#include "scene/FaceCoefficients.h"
 
 #include <bit>
 #include <map>

@@ -1,9 +1,9 @@
 #include "io/PlyWriter.h"
 
 #include "io/ColorChannel.h"
-#include "io/FaceCoefficients.h"
 #include "io/MeshPoints.h"
 #include "io/PlyReader.h"
+#include "scene/FaceCoefficients.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,7 +1,6 @@
 #include "io/TavrinMeshIO.h"
 
 #include "geometry/CPoint3D.h"
-#include "io/FaceCoefficients.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/FileNames.h"
@@ -11,6 +10,7 @@
 #include "io/PosixFileSystem.h"
 #include "io/StorableValue.h"
 #include "scene/Face3d.h"
+#include "scene/FaceCoefficients.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
