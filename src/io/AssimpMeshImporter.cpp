@@ -3,6 +3,7 @@
 #include "geometry/Rounding.h"
 #include "io/PosixFileSystem.h"
 #include "scene/Face3d.h"
+#include "scene/FaceCoefficients.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
@@ -39,9 +40,9 @@
 
 namespace {
 
-// What a material does not say: the values of an extrusion's unticked surface groups.
-constexpr float defaultCoefficient = 0.5f;
-constexpr float defaultExponent = 50;
+// What a material does not say.
+constexpr float defaultCoefficient = FaceCoefficients::unsaid[0];
+constexpr float defaultExponent = FaceCoefficients::unsaid[7];
 // The face dialog's specular exponent bar.
 constexpr float maxExponent = 100;
 

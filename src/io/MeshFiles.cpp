@@ -9,6 +9,7 @@
 #include "io/ObjWriter.h"
 #include "io/PlyReader.h"
 #include "io/PlyWriter.h"
+#include "io/StlReader.h"
 #include "io/StlWriter.h"
 #include "io/ThreeMfWriter.h"
 
@@ -62,8 +63,7 @@ std::vector<uint8_t> MeshFiles::read(const std::string& path) const {
 
 bool MeshFiles::isReadable(const std::string& path) {
     const std::optional<Format> format = formatOf(path);
-    return (format && *format != Format::Stl && *format != Format::ThreeMf) ||
-           AssimpMeshImporter::importsExtension(path);
+    return (format && *format != Format::ThreeMf) || AssimpMeshImporter::importsExtension(path);
 }
 
 ObjectList MeshFiles::open(const std::string& path) const {
@@ -71,7 +71,7 @@ ObjectList MeshFiles::open(const std::string& path) const {
         throw Error(path, std::make_error_code(std::errc::invalid_argument));
     }
     const std::optional<Format> format = formatOf(path);
-    if (!format || *format == Format::Stl || *format == Format::ThreeMf) {
+    if (!format || *format == Format::ThreeMf) {
         // A file that cannot be opened is the system's error, as for the formats read here.
         FileSystem::Status status;
         if (const std::error_code error = system_.status(path, status)) {
@@ -106,6 +106,7 @@ ObjectList MeshFiles::open(const std::string& path) const {
         case Format::Ply:
             return PlyReader::parse(bytes);
         case Format::Stl:
+            return StlReader::parse(bytes);
         case Format::ThreeMf:
             break;
         }

@@ -9,7 +9,7 @@
 #include <system_error>
 
 // Meshes in the formats of other programs, and the program's own, by the file name's
-// extension (any case): .tvm, .obj (with its .mtl) and .ply are read; those, .stl and .3mf
+// extension (any case): .tvm, .obj (with its .mtl), .ply and .stl are read; those and .3mf
 // are written. Every file is read whole through the bounded reader and written through
 // FileOverwriter, so that a failed write leaves no partial file and an old file as it was
 // (an .obj and its .mtl are replaced as one).
@@ -38,8 +38,8 @@ public:
     static std::string libraryOf(const std::string& objPath);
 
     // Whether open reads the file, by its name: .tvm, .obj and .ply by the program's own
-    // readers, which keep a file's points and faces in their order, and the other formats of
-    // AssimpMeshImporter (.stl, .off, .gltf, .glb, .3mf) through the library.
+    // readers, which keep a file's points and faces in their order, .stl by StlReader, and
+    // the other formats of AssimpMeshImporter (.off, .gltf, .glb, .3mf) through the library.
     static bool isReadable(const std::string& path);
     // The objects of a file isReadable names; throws Error.
     ObjectList open(const std::string& path) const;

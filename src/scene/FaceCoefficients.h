@@ -10,6 +10,10 @@ namespace FaceCoefficients {
 
 using Values = std::array<float, 8>;
 
+// What a mesh file does not say (a file without materials): the values of an extrusion's
+// unticked surface groups, 0.5 for each colour channel and SpecularK, 50 for SpecularN.
+inline constexpr Values unsaid = {0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 50};
+
 inline Values of(const Face3d& face) {
     return {face.AmbientKr, face.AmbientKg, face.AmbientKb, face.DiffuseKr,
             face.DiffuseKg, face.DiffuseKb, face.SpecularK, face.SpecularN};

@@ -4,7 +4,9 @@
 #include "io/ObjWriter.h"
 #include "io/PlyReader.h"
 #include "io/PlyWriter.h"
+#include "io/StlReader.h"
 #include "io/StlWriter.h"
+#include "scene/FaceCoefficients.h"
 #include "scene/Transformed3d.h"
 
 #include <bit>
@@ -237,5 +239,41 @@ TEST(MeshFormats, AFaceOfMoreThan255CornersComesBackWholeFromPlyAndObj) {
         ASSERT_EQ(read.size(), 1u);
         EXPECT_EQ(coordinatesOf(*read[0]), xyz);
         EXPECT_EQ(read[0]->getFaces().at(0)->getIndices(), corners);
+    }
+}
+
+TEST(MeshFormats, StlJoinsCornersAtOnePlaceInEitherEncoding) {
+    auto quad = std::make_shared<Transformed3d>();
+    quad->setSolid(std::make_shared<Solid3d>());
+    quad->getSolid()->addPointsArray(std::vector<float>{0, 0, 0, 2, 0, 0, 2, 2, 0, 0, 2, 0});
+    quad->getSolid()->AddFace(std::vector<int32_t>{2, 3, 4, 1});
+    Bytes binary = StlWriter::encode({quad}, false);
+    binary[84 + 50 + 19] = 0x80; // the second triangle's first corner at y = -0
+    Bytes headed = binary;
+    std::copy_n("solid", 5, headed.begin()); // a binary header may start as ASCII does
+    for (const Bytes& file : {binary, headed, StlWriter::encode({quad}, true)}) {
+        const ObjectList objects = StlReader::parse(file);
+        ASSERT_EQ(objects.size(), 1u);
+        EXPECT_EQ(coordinatesOf(*objects[0]),
+                  (std::vector<float>{2, 0, 0, 2, 2, 0, 0, 2, 0, 0, 0, 0}));
+        const FaceList faces = objects[0]->getFaces();
+        ASSERT_EQ(faces.size(), 2u);
+        EXPECT_EQ(faces[0]->getIndices(), (std::vector<int32_t>{1, 2, 3}));
+        EXPECT_EQ(faces[1]->getIndices(), (std::vector<int32_t>{1, 3, 4}));
+        EXPECT_EQ(FaceCoefficients::of(*faces[1]), FaceCoefficients::unsaid);
+    }
+    const std::string facet = "facet normal 0 0 1 outer loop vertex 0 0 0 vertex 1 0 0 vertex ";
+    const std::pair<Bytes, std::string> cases[] = {
+        {Bytes(binary.begin(), binary.end() - 1),
+         "the file holds 183 bytes, too few for its 2 facets"},
+        {Bytes(84), "the file holds no facets"},
+        {bytesOf("solid a\n" + facet + "1 1 0 endfacet endsolid"),
+         "line 2: 'endfacet' where 'endloop' belongs"},
+        {bytesOf("solid a\n" + facet + "1 nan 0 endloop endfacet endsolid"),
+         "the facet of line 2: a point is not a finite number"},
+        {bytesOf("solid a\n" + facet + "1 x 0"), "line 2: 'x' is not a number"},
+    };
+    for (const auto& [file, message] : cases) {
+        EXPECT_EQ(refusal([&] { StlReader::parse(file); }), message);
     }
 }
