@@ -22,7 +22,8 @@ cmake --build --preset fuzz -j 2
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 for run in "TavrinMeshIOFuzz mesh" "MacroFuzz macro -dict=fuzz/macro.dict" \
-    "ProfileFileFuzz profile" "PlyReaderFuzz ply" "ObjReaderFuzz obj" "AssimpMeshImporterFuzz assimp"; do
+    "ProfileFileFuzz profile" "PlyReaderFuzz ply" "ObjReaderFuzz obj" "StlReaderFuzz stl" \
+    "AssimpMeshImporterFuzz assimp"; do
     read -r harness corpus options <<<"$run"
     mkdir "$work/$corpus"
     cp "fuzz/corpus/$corpus"/* "$work/$corpus/"
