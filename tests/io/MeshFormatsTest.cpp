@@ -262,6 +262,19 @@ TEST(MeshFormats, StlJoinsCornersAtOnePlaceInEitherEncoding) {
         EXPECT_EQ(faces[1]->getIndices(), (std::vector<int32_t>{1, 3, 4}));
         EXPECT_EQ(FaceCoefficients::of(*faces[1]), FaceCoefficients::unsaid);
     }
+    // Enough points that corners meet other points in the join table's probes.
+    auto grid = std::make_shared<Transformed3d>();
+    grid->setSolid(std::make_shared<Solid3d>());
+    std::vector<float> xyz;
+    for (int i = 0; i < 400; ++i) {
+        xyz.insert(xyz.end(), {static_cast<float>(i % 20), static_cast<float>(i / 20), 0.5f});
+    }
+    grid->getSolid()->addPointsArray(xyz);
+    for (int i = 1; i <= 380; ++i) {
+        grid->getSolid()->AddFace(std::vector<int32_t>{i, i + 1, i + 20});
+    }
+    EXPECT_EQ(coordinatesOf(*StlReader::parse(StlWriter::encode({grid}, false)).at(0)).size(),
+              xyz.size());
     const std::string facet = "facet normal 0 0 1 outer loop vertex 0 0 0 vertex 1 0 0 vertex ";
     const std::pair<Bytes, std::string> cases[] = {
         {Bytes(binary.begin(), binary.end() - 1),
