@@ -172,16 +172,16 @@ public:
     }
 
     static bool is(std::string_view word, std::string_view keyword) {
-        return std::equal(word.begin(), word.end(), keyword.begin(), keyword.end(),
-                          [](char a, char b) { return std::tolower(a) == b; });
+        return std::equal(
+            word.begin(), word.end(), keyword.begin(), keyword.end(),
+            [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
     }
 
     // The word just read must be the keyword (in any case).
     void require(std::string_view word, std::string_view keyword) const {
         if (!is(word, keyword)) {
-            fail(at() +
-                 (word.empty() ? "the file ends" : "'" + std::string(word.substr(0, 20)) + "'") +
-                 " where '" + std::string(keyword) + "' belongs");
+            fail(at() + (word.empty() ? "the file ends" : quoted(word)) + " where '" +
+                 std::string(keyword) + "' belongs");
         }
     }
 
@@ -196,12 +196,21 @@ public:
         float value = 0;
         const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
         if (word.empty() || error != std::errc() || end != word.data() + word.size()) {
-            fail(at() + "'" + std::string(text.substr(0, 20)) + "' is not a number");
+            fail(at() + quoted(text) + " is not a number");
         }
         return value;
     }
 
     std::string at() const { return "line " + std::to_string(line_) + ": "; }
+
+    // The word in quotes for a message, cut to 20 characters, a control character as '?'.
+    static std::string quoted(std::string_view word) {
+        std::string text(word.substr(0, 20));
+        std::replace_if(
+            text.begin(), text.end(),
+            [](char c) { return std::iscntrl(static_cast<unsigned char>(c)); }, '?');
+        return "'" + text + "'";
+    }
 
 private:
     static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
