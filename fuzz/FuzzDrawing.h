@@ -3,12 +3,18 @@
 // What the mesh harnesses do with what a reader accepts: draw it in every display mode, since
 // accepted data must never make the renderer read out of bounds or stall.
 #include "app/SceneDocument.h"
+#include "io/MeshFormatError.h"
 #include "io/TavrinMeshIO.h"
 #include "macro/BlankCanvas.h"
 #include "platform/Prompts.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Transformed3d.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+#include <vector>
 
 namespace FuzzDrawing {
 
@@ -17,7 +23,7 @@ class SilentPrompts : public Prompts {
 public:
     MessageAnswer messageBox(const std::string&, const std::string&, MessageIcon,
                              MessageButtons buttons) override {
-        return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+        return refusal(buttons);
     }
     std::optional<std::string> inputBox(const std::string&, const std::string&,
                                         const std::string&) override {
@@ -47,6 +53,25 @@ inline void drawEveryWay(const ObjectList& objects) {
             }
         }
     }
+}
+
+// The harness of a reader of bytes whose writer it can check: a refusal is an ordinary end;
+// what reads is drawn every way, and what the writer makes of it must read back to the same
+// bytes.
+template <class Parse, class Encode>
+int readDrawAndWriteBack(std::span<const uint8_t> input, Parse parse, Encode encode) {
+    ObjectList objects;
+    try {
+        objects = parse(input);
+    } catch (const MeshFormatError&) {
+        return 0;
+    }
+    drawEveryWay(objects);
+    const std::vector<uint8_t> written = encode(objects);
+    if (encode(parse(written)) != written) {
+        std::abort();
+    }
+    return 0;
 }
 
 } // namespace FuzzDrawing
