@@ -2,6 +2,7 @@
 
 #include "geometry/Matrix4.h"
 #include "render/LightSource.h"
+#include "render/Shading.h"
 
 #include <cstdint>
 #include <memory>
@@ -63,6 +64,10 @@ public:
     void TransformedNormalVector(float& x, float& y, float& z) const;
     void UnitNormalVector(float& x, float& y, float& z) const;
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
+    // The nearest and farthest corner from the light, culled or not (1e30 and -1e30 for a face
+    // of fewer than three corners).
+    void cornerDistances(float light_x, float light_y, float light_z, float& Rmin,
+                         float& Rmax) const;
     float zmax() const;
 
     // Transformations through the solid's cache: a point shared by several faces is
@@ -77,6 +82,8 @@ public:
     // Visibility: back faces and faces edge-on to the eye are culled; so are faces with a
     // corner at or behind the eye.
     void cull(float eye_x, float eye_y, float eye_z);
+    // What cull decides, without deciding it.
+    bool facesAwayFrom(float eye_x, float eye_y, float eye_z) const;
     void clipEye(float eyeR);
 
     // Depth relations for the painter's sort, all on the transformed points.
@@ -91,6 +98,14 @@ public:
                         float eye_x, float eye_y, float eye_z, bool UseShift, int FRed, int FGreen,
                         int FBlue, bool wireFrame);
 
+    // What shading reads of the face: its unit normal, its first corner and its coefficients.
+    ShadedSurface shadedSurface() const;
+    // Whether every corner lies off the canvas: then the face paints nothing.
+    static bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic);
+    // Fills points with the face colour (outlines only, in that colour, for a wireframe),
+    // leaving the canvas's styles and colours as they were.
+    static void paintPolygon(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
+                             bool wireFrame);
     // A hit region from the rounded transformed corners, culled or not.
     std::shared_ptr<GDIRegion> createRegion(int fillmode) const;
 
@@ -102,8 +117,6 @@ private:
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
     // The corners' transformed x and y, rounded to whole pixels.
     std::vector<CanvasPoint> canvasPoints() const;
-    void paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
-               bool wireFrame) const;
 
     std::vector<int32_t> indices_;
     Solid3d* solid_ = nullptr;
