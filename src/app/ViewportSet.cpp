@@ -98,6 +98,23 @@ void ViewportSet::redrawAll(const ViewportScene& scene,
                                              ? ViewportPaint::Project
                                              : ViewportPaint::Keep});
     }
+    // A step of a drag renders its viewport alone; the rest waits for the release.
+    const bool dragStep =
+        !documentChanged && draggedViewport >= 0 &&
+        std::all_of(targets.begin(), targets.end(), [&](const ViewportTarget& target) {
+            return target.canvas == picOrtho[static_cast<size_t>(draggedViewport)] ||
+                   target.paint == ViewportPaint::Keep || target.paint == ViewportPaint::Project;
+        });
+    if (dragStep) {
+        for (ViewportTarget& target : targets) {
+            if (target.canvas != picOrtho[static_cast<size_t>(draggedViewport)]) {
+                target.paint = ViewportPaint::Untouched;
+            }
+        }
+    } else if (draggedBefore_) {
+        any = true; // the first redraw after a drag projects every viewport again
+    }
+    draggedBefore_ = dragStep && any;
     if (any) {
         renderer.redraw(targets, scene);
     }

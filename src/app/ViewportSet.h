@@ -93,4 +93,5 @@ private:
     };
     PictureKey keyOf(size_t index, const ViewportScene& scene) const;
     std::array<std::optional<PictureKey>, 4> kept_;
+    bool draggedBefore_ = false; // the last redraw rendered a drag step alone
 };

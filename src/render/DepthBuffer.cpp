@@ -43,13 +43,15 @@ void DepthBuffer::fill(const std::vector<CanvasPoint>& points, const std::vector
     const int width = picture_.width;
     filler_.forEachSpan(width, picture_.height, points, [&](int y, int32_t left, int32_t right) {
         const size_t row = static_cast<size_t>(y) * static_cast<size_t>(width);
-        const double rowDepth = b * (y + 0.5) + c;
-        for (int32_t x = left; x < right; ++x) {
-            const auto depth = static_cast<float>(a * (x + 0.5) + rowDepth);
-            float& kept = depth_[row + static_cast<size_t>(x)];
-            if (depth >= kept) {
-                kept = depth;
-                picture_.pixels[row + static_cast<size_t>(x)] = pixel;
+        // Stepped along the row: the depths need only order the faces, not be exact.
+        auto depth = static_cast<float>(a * (left + 0.5) + b * (y + 0.5) + c);
+        const auto step = static_cast<float>(a);
+        float* kept = depth_.data() + row;
+        uint32_t* pixels = picture_.pixels.data() + row;
+        for (int32_t x = left; x < right; ++x, depth += step) {
+            if (depth >= kept[x]) {
+                kept[x] = depth;
+                pixels[x] = pixel;
             }
         }
     });

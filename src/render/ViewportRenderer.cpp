@@ -15,6 +15,7 @@
 #include "scene/WorkPlane.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <thread>
 
@@ -32,6 +33,8 @@ struct ViewportRenderer::View {
     bool painted() const {
         return target.paint == ViewportPaint::Exact || target.paint == ViewportPaint::Depth;
     }
+    // Shown and projected: its lights are fitted.
+    bool fitted() const { return painted() || target.paint == ViewportPaint::Keep; }
 };
 
 namespace {
@@ -96,30 +99,15 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
         KorvanOpsConsts::getEyePosition(*view.target.record, view.ex, view.ey, view.ez);
         view.depthSorter = depthSorters_[i].get();
     }
-    // Each face's distances from the lights, once for every viewport that fits them.
-    const bool fitting = std::any_of(views.begin(), views.end(), [](const View& view) {
-        return view.target.paint != ViewportPaint::Project;
-    });
-    lightDistances_.assign(fitting ? scene.solids.size() : 0, {});
-    onBothCores(lightDistances_.size(), [&](size_t k) {
-        const auto solid = scene.solids[k]->getSolid();
-        if (!solid) {
-            return;
-        }
-        std::vector<float>& distances = lightDistances_[k];
-        distances.resize(solid->faces.size() * scene.light_sources.size() * 2);
-        size_t at = 0;
-        for (const auto& face : solid->faces) {
-            for (const auto& light : scene.light_sources) {
-                face->cornerDistances(light->x, light->y, light->z, distances[at],
-                                      distances[at + 1]);
-                at += 2;
-            }
-        }
-    });
+    gatherNormals(scene);
     onBothCores(views.size(), [&](size_t i) {
-        see(views[i], scene);
-        if (views[i].target.paint != ViewportPaint::Project) {
+        if (views[i].target.paint != ViewportPaint::Untouched) {
+            see(views[i], scene);
+        }
+    });
+    gatherLightSquares(scene, views);
+    onBothCores(views.size(), [&](size_t i) {
+        if (views[i].fitted()) {
             fitLights(views[i], scene);
         }
     });
@@ -127,6 +115,9 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
     // The grid, one viewport after the other: it keeps its projection in the document.
     const bool showGrid = scene.showGrid && scene.grid;
     for (View& view : views) {
+        if (view.target.paint == ViewportPaint::Untouched) {
+            continue;
+        }
         Canvas& canvas = *view.target.canvas;
         NullCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
         Canvas& target = view.painted() ? canvas : static_cast<Canvas&>(nothing);
@@ -157,11 +148,17 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
     }
     onBothCores(painted.size(), [&](size_t i) { paintObjects(*painted[i], scene); });
     for (View& view : views) {
+        if (view.target.paint == ViewportPaint::Untouched) {
+            continue;
+        }
         Canvas& canvas = *view.target.canvas;
         NullCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
         drawRest(view, scene, view.painted() ? canvas : static_cast<Canvas&>(nothing));
     }
+    std::erase_if(views,
+                  [](const View& view) { return view.target.paint == ViewportPaint::Untouched; });
     store(views, scene);
+    facts_.clear();
 }
 
 void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
@@ -183,9 +180,11 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
         seen.culled.assign(faces.size(), 0);
         seen.points.resize(records);
         seen.reached.assign(records, 0);
-        for (size_t f = 0; f < faces.size(); ++f) {
+        const float* normal = facts_[k].normals.data();
+        for (size_t f = 0; f < faces.size(); ++f, normal += 3) {
             const Face3d& face = *faces[f];
-            if (cullBackFaces && face.facesAwayFrom(view.ex, view.ey, view.ez)) {
+            if (cullBackFaces &&
+                face.facesAway(normal[0], normal[1], normal[2], view.ex, view.ey, view.ez)) {
                 seen.culled[f] = 1;
                 continue;
             }
@@ -242,27 +241,90 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
     }
 }
 
+template <class Work> void ViewportRenderer::inParts(const ViewportScene& scene, Work work) {
+    // In parts of about equal size, so that one large object keeps both cores busy.
+    struct Part {
+        size_t object, first, end;
+    };
+    std::vector<Part> parts;
+    constexpr size_t partSize = 8192;
+    for (size_t k = 0; k < scene.solids.size(); ++k) {
+        const auto solid = scene.solids[k]->getSolid();
+        const size_t count = solid ? solid->faces.size() : 0;
+        for (size_t first = 0; first < count; first += partSize) {
+            parts.push_back(Part{k, first, std::min(first + partSize, count)});
+        }
+    }
+    onBothCores(parts.size(), [&](size_t p) {
+        const Part& part = parts[p];
+        const FaceList& faces = scene.solids[part.object]->getSolid()->faces;
+        for (size_t f = part.first; f < part.end; ++f) {
+            work(part.object, f, *faces[f]);
+        }
+    });
+}
+
+void ViewportRenderer::gatherNormals(const ViewportScene& scene) {
+    facts_.assign(scene.solids.size(), {});
+    for (size_t k = 0; k < scene.solids.size(); ++k) {
+        const auto solid = scene.solids[k]->getSolid();
+        facts_[k].normals.resize(solid ? solid->faces.size() * 3 : 0);
+    }
+    inParts(scene, [&](size_t k, size_t f, const Face3d& face) {
+        float* normal = facts_[k].normals.data() + f * 3;
+        face.NormalVector(normal[0], normal[1], normal[2]);
+    });
+}
+
+void ViewportRenderer::gatherLightSquares(const ViewportScene& scene,
+                                          const std::vector<View>& views) {
+    const size_t lightCount = scene.light_sources.size();
+    for (size_t k = 0; k < scene.solids.size(); ++k) {
+        facts_[k].lightSquares.resize(facts_[k].normals.size() / 3 * lightCount * 2);
+    }
+    inParts(scene, [&](size_t k, size_t f, const Face3d& face) {
+        // Only the faces some fitted viewport keeps are fitted to; a face of fewer than
+        // three corners never is.
+        const bool fitted = face.NumPts >= 3 && face.getSolidContainer() != nullptr &&
+                            std::any_of(views.begin(), views.end(), [&](const View& view) {
+                                return view.fitted() && view.objects[k].culled[f] == 0;
+                            });
+        double* squares = facts_[k].lightSquares.data() + f * lightCount * 2;
+        for (size_t l = 0; l < lightCount; ++l) {
+            const LightSource& light = *scene.light_sources[l];
+            squares[2 * l] = 1e300;
+            squares[2 * l + 1] = -1e300;
+            if (fitted) {
+                face.squaredLightDistances(light.x, light.y, light.z, squares[2 * l],
+                                           squares[2 * l + 1]);
+            }
+        }
+    });
+}
+
 void ViewportRenderer::fitLights(View& view, const ViewportScene& scene) const {
-    // Attenuation 1 at the nearest and 0.5 at the farthest corner of the faces kept.
+    // Attenuation 1 at the nearest and 0.5 at the farthest corner of the faces kept. A root,
+    // and its rounding to single precision, never reverse an order, so the nearest of the
+    // faces' rounded roots is the rounded root of the nearest square: one root per light.
+    // (A face whose corners are all undefined leaves 1e300 and -1e300, whose roots the
+    // fitting of single faces passes over too.)
     const size_t lightCount = scene.light_sources.size();
     view.lights.clear();
     for (size_t l = 0; l < lightCount; ++l) {
-        float Rmin = 1e30f;
-        float Rmax = -1e30f;
+        double smallest = 1e300;
+        double largest = -1e300;
         for (size_t k = 0; k < scene.solids.size(); ++k) {
             const SolidProjection& seen = view.objects[k];
-            const std::vector<float>& distances = lightDistances_[k];
-            float objectMin = 1e30f;
-            float objectMax = -1e30f;
+            const double* squares = facts_[k].lightSquares.data() + 2 * l;
             for (size_t f = 0; f < seen.culled.size(); ++f) {
-                const bool kept = seen.culled[f] == 0;
-                const size_t at = (f * lightCount + l) * 2;
-                objectMin = std::min(objectMin, kept ? distances[at] : 1e30f);
-                objectMax = std::max(objectMax, kept ? distances[at + 1] : -1e30f);
+                if (seen.culled[f] == 0) {
+                    smallest = std::min(smallest, squares[f * lightCount * 2]);
+                    largest = std::max(largest, squares[f * lightCount * 2 + 1]);
+                }
             }
-            Rmin = std::min(Rmin, objectMin);
-            Rmax = std::max(Rmax, objectMax);
         }
+        const float Rmin = std::min(1e30f, static_cast<float>(std::sqrt(smallest)));
+        const float Rmax = std::max(-1e30f, static_cast<float>(std::sqrt(largest)));
         auto light = std::make_shared<LightSource>(*scene.light_sources[l]);
         light->Rmin = Rmin;
         light->Kdist = Rmax - 2 * Rmin;
@@ -396,7 +458,7 @@ void ViewportRenderer::store(const std::vector<View>& views, const ViewportScene
     }
     // The lights keep the ranges of the last viewport fitted.
     for (auto view = views.rbegin(); view != views.rend(); ++view) {
-        if (view->target.paint != ViewportPaint::Project) {
+        if (view->fitted()) {
             for (size_t l = 0; l < scene.light_sources.size(); ++l) {
                 scene.light_sources[l]->Rmin = view->lights[l]->Rmin;
                 scene.light_sources[l]->Kdist = view->lights[l]->Kdist;

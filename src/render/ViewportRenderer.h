@@ -12,10 +12,11 @@ class Transformed3d;
 
 // How a redraw treats one viewport.
 enum class ViewportPaint {
-    Project, // hidden: projected only, nothing painted
-    Keep,    // shown, its picture kept: projected and drawn into nothing
-    Exact,   // painted back to front in the painter's face order
-    Depth,   // painted with a depth buffer where the order would be needed
+    Untouched, // left as it is: neither projected nor drawn
+    Project,   // hidden: projected only, nothing painted
+    Keep,      // shown, its picture kept: projected and drawn into nothing
+    Exact,     // painted back to front in the painter's face order
+    Depth,     // painted with a depth buffer where the order would be needed
 };
 
 // One viewport of a redraw: its canvas (whose size places the picture), its view record and
@@ -37,7 +38,9 @@ struct ViewportTarget {
 // (grid, workplanes, profiles, axes) one viewport after the other. The document is then left
 // as redrawing the viewports one after another in order leaves it: a point keeps the
 // projection of the last viewport whose faces reached it, and the faces' culling, the objects'
-// depths and flags and the lights' ranges are those of the last viewport.
+// depths and flags and the lights' ranges are those of the last viewport. Viewports left
+// untouched take no part: a redraw that leaves some is one step of a drag, and the document
+// holds what a full redraw leaves only once one without them follows.
 class ViewportRenderer {
 public:
     // Rendering constants of every viewport.
@@ -67,7 +70,15 @@ private:
 
     // Per viewport, kept so that the object order's buffers are reused.
     std::vector<std::unique_ptr<RadixSort<Transformed3d>>> depthSorters_;
-    // Each face's nearest and farthest corner from each light, per object: two values per
-    // light per face, computed once per redraw.
-    std::vector<std::vector<float>> lightDistances_;
+    // What every viewport reads of each face, per object, computed once per redraw: its
+    // normal (three values) and the squares of its nearest and farthest corner's distance
+    // from each light (two per light).
+    struct FaceFacts {
+        std::vector<float> normals;
+        std::vector<double> lightSquares;
+    };
+    template <class Work> static void inParts(const ViewportScene& scene, Work work);
+    void gatherNormals(const ViewportScene& scene);
+    void gatherLightSquares(const ViewportScene& scene, const std::vector<View>& views);
+    std::vector<FaceFacts> facts_;
 };

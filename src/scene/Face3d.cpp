@@ -130,20 +130,18 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
                          float& Rmax) const {
     Rmin = 1e30f;
     Rmax = -1e30f;
-    if (!IsCulled) {
-        cornerDistances(light_x, light_y, light_z, Rmin, Rmax);
-    }
-}
-
-void Face3d::cornerDistances(float light_x, float light_y, float light_z, float& Rmin,
-                             float& Rmax) const {
-    Rmin = 1e30f;
-    Rmax = -1e30f;
-    if (cornerCount() < 3) {
+    if (IsCulled || cornerCount() < 3) {
         return;
     }
     double smallest = 1e300;
     double largest = -1e300;
+    squaredLightDistances(light_x, light_y, light_z, smallest, largest);
+    Rmin = static_cast<float>(std::sqrt(smallest));
+    Rmax = static_cast<float>(std::sqrt(largest));
+}
+
+void Face3d::squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
+                                   double& largest) const {
     for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& c = record(corner).coord;
         const double dx = c.x - light_x;
@@ -153,8 +151,6 @@ void Face3d::cornerDistances(float light_x, float light_y, float light_z, float&
         smallest = std::min(smallest, squared);
         largest = std::max(largest, squared);
     }
-    Rmin = static_cast<float>(std::sqrt(smallest));
-    Rmax = static_cast<float>(std::sqrt(largest));
 }
 
 float Face3d::zmax() const {
@@ -219,6 +215,10 @@ bool Face3d::facesAwayFrom(float eye_x, float eye_y, float eye_z) const {
     float ny;
     float nz;
     NormalVector(nx, ny, nz);
+    return facesAway(nx, ny, nz, eye_x, eye_y, eye_z);
+}
+
+bool Face3d::facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const {
     if (cornerCount() < 1) {
         return true;
     }

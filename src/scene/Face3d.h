@@ -64,10 +64,10 @@ public:
     void TransformedNormalVector(float& x, float& y, float& z) const;
     void UnitNormalVector(float& x, float& y, float& z) const;
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
-    // The nearest and farthest corner from the light, culled or not (1e30 and -1e30 for a face
-    // of fewer than three corners).
-    void cornerDistances(float light_x, float light_y, float light_z, float& Rmin,
-                         float& Rmax) const;
+    // Lowers smallest and raises largest to the squares of the corners' distances from the
+    // light, culled or not, as getRMinRMax measures them before taking their roots.
+    void squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
+                               double& largest) const;
     float zmax() const;
 
     // Transformations through the solid's cache: a point shared by several faces is
@@ -82,8 +82,9 @@ public:
     // Visibility: back faces and faces edge-on to the eye are culled; so are faces with a
     // corner at or behind the eye.
     void cull(float eye_x, float eye_y, float eye_z);
-    // What cull decides, without deciding it.
+    // What cull decides, without deciding it; facesAway takes the face's NormalVector.
     bool facesAwayFrom(float eye_x, float eye_y, float eye_z) const;
+    bool facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const;
     void clipEye(float eyeR);
 
     // Depth relations for the painter's sort, all on the transformed points.

@@ -112,10 +112,30 @@ TEST(ViewportPictures, KeptAndParallelPicturesMatchTheLiteralRedrawOverRandomSes
         canvas.moveTo(overlayX, 0);
         canvas.lineTo(overlayX, 20);
     };
+    // The viewports one after the other, every one painted, as every redraw once did.
+    const auto literalRedraw = [&](bool compare, int step) {
+        for (size_t i = 0; i < 4; ++i) {
+            QtCanvas& canvas = literalCanvases[i];
+            const ViewSpecs& record = viewports.viewSpecs(static_cast<int>(i) + 1);
+            canvas.setVisible(canvases[i].isVisible());
+            canvas.resize(canvases[i].scaleWidth(), canvases[i].scaleHeight());
+            if (!canvas.isVisible()) {
+                LiteralRedraw::project(canvas, record, literal.scene());
+                continue;
+            }
+            LiteralRedraw::redrawViewport(canvas, record, literal.scene());
+            overlay(canvas, record);
+            canvas.refresh();
+            if (compare && !viewports.depthBufferedAtRest) {
+                EXPECT_EQ(canvases[i].image(), canvas.image())
+                    << "step " << step << ", viewport " << i;
+            }
+        }
+    };
     for (int step = 0; step < 300; ++step) {
         bool changed = step == 0;
         const int number = static_cast<int>(random() % 4) + 1;
-        switch (random() % 9) {
+        switch (random() % 10) {
         case 0:
             viewports.viewSpecs(number).EyeTheta += 0.3f;
             break;
@@ -155,29 +175,23 @@ TEST(ViewportPictures, KeptAndParallelPicturesMatchTheLiteralRedrawOverRandomSes
         case 7:
             viewports.depthBufferedAtRest = !viewports.depthBufferedAtRest;
             break;
+        case 8:
+            // A drag: its steps draw that viewport alone; the release settles the rest.
+            viewports.draggedViewport = number - 1;
+            for (int move = 0; move < 3; ++move) {
+                viewports.viewSpecs(number).EyeTheta -= 0.2f;
+                viewports.redrawAll(ours.scene(), overlay, false);
+                literalRedraw(false, step);
+            }
+            viewports.draggedViewport = -1;
+            break;
         default:
             viewports.viewSpecs(number).anchorX += 5; // the mouse moved; nothing else did
             break;
         }
         overlayX = static_cast<int>(random() % 50);
         viewports.redrawAll(ours.scene(), overlay, changed);
-        for (size_t i = 0; i < 4; ++i) {
-            literalCanvases[i].setVisible(canvases[i].isVisible());
-            literalCanvases[i].resize(canvases[i].scaleWidth(), canvases[i].scaleHeight());
-            if (!canvases[i].isVisible()) {
-                LiteralRedraw::project(literalCanvases[i], viewports.viewSpecs(int(i) + 1),
-                                       literal.scene());
-                continue;
-            }
-            LiteralRedraw::redrawViewport(literalCanvases[i], viewports.viewSpecs(int(i) + 1),
-                                          literal.scene());
-            overlay(literalCanvases[i], viewports.viewSpecs(int(i) + 1));
-            literalCanvases[i].refresh();
-            if (!viewports.depthBufferedAtRest) {
-                EXPECT_EQ(canvases[i].image(), literalCanvases[i].image())
-                    << "step " << step << ", viewport " << i;
-            }
-        }
+        literalRedraw(true, step);
         expectSameState(ours, literal, step);
         if (HasFailure()) {
             return;
