@@ -53,6 +53,13 @@ void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChoose
     refreshMenus();
 }
 
+void frmTolvane::attachPictureWriter(const PictureWriter& writer) {
+    if (fileDialog) {
+        imageCommands.emplace(*this, viewports, modalHost, *fileDialog, writer);
+        imageCommands->bind(menus);
+    }
+}
+
 bool frmTolvane::Form_QueryUnload() {
     const bool mayClose = !fileCommands || fileCommands->settleUnsavedChanges();
     refreshMenus();
@@ -82,13 +89,17 @@ void frmTolvane::layoutViewports() {
     redrawAllViewports();
 }
 
-void frmTolvane::redrawAllViewports() {
+ViewportScene frmTolvane::viewportScene() {
     // The menu's check marks are the switches of grid and axes.
     ViewportScene scene = document.scene();
     scene.showGrid = menus.item("mnuGrid").isChecked();
     scene.showZeroAxes = menus.item("mnuZeroAxes").isChecked();
     scene.showReferenceAxes = menus.item("mnuReferenceAxes").isChecked();
-    viewports.redrawAll(scene, [this](Canvas& canvas, const ViewSpecs& record) {
+    return scene;
+}
+
+void frmTolvane::redrawAllViewports() {
+    viewports.redrawAll(viewportScene(), [this](Canvas& canvas, const ViewSpecs& record) {
         mouse.drawOverlay(canvas, record);
     });
 }

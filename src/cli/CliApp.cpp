@@ -13,12 +13,11 @@
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
 #include "macro/MessageText.h"
-#include "qt/QtCanvas.h"
+#include "qt/QtPictureWriter.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <array>
 #include <cctype>
@@ -179,20 +178,13 @@ void CliApp::render(const CliOptions& options) const {
         });
         application.emplace(argc, argv);
     }
-    QtCanvas canvas(options.width, options.height);
-    renderer.redrawViewport(canvas, view, document.scene());
-    canvas.refresh();
-    // Encoded in memory, so that the file is written the way every output is.
-    QByteArray encoded;
-    QBuffer buffer(&encoded);
-    buffer.open(QIODevice::WriteOnly);
-    if (!canvas.image().save(&buffer, options.format == CliOptions::Format::Bmp ? "BMP" : "PNG")) {
-        throw CliError("cannot write " + CliError::quoted(options.output) +
-                           ": the picture cannot be encoded",
+    const PicturePart whole{view, 0, 0, options.width, options.height};
+    const std::string failure = QtPictureWriter(files_).write(
+        options.output, options.width, options.height, {whole}, document.scene());
+    if (!failure.empty()) {
+        throw CliError("cannot write " + CliError::quoted(options.output) + ": " + failure,
                        CliError::failure);
     }
-    writeOutput(options.output, {reinterpret_cast<const uint8_t*>(encoded.constData()),
-                                 static_cast<size_t>(encoded.size())});
 }
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
