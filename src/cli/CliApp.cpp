@@ -72,6 +72,9 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
         case CliOptions::Command::Help:
             out << CliOptions::helpText();
             break;
+        case CliOptions::Command::Version:
+            out << "korvan-cli " KORVAN_VERSION "\n";
+            break;
         case CliOptions::Command::Render:
             render(options);
             break;

@@ -115,6 +115,7 @@ TEST_F(CliEndToEnd, RendersPngAndDescribesTheFile) {
     const Outcome help = run("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.out.starts_with("Usage: korvan-cli render"));
+    EXPECT_EQ(run("info --version").out, "korvan-cli 2.0\n");
 }
 
 TEST_F(CliEndToEnd, DefaultRenderIsWhatTheEditorShowsAtStartUpWithoutFacelessObjects) {
