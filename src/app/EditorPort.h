@@ -6,6 +6,7 @@
 
 class ClickHandleNothing;
 class UndoHistory;
+struct ViewportScene;
 
 // What the command groups may ask of the editor that runs them: pictures and layout drawn
 // again, the tree made anew, the mouse mode switched or read, and the viewport last
@@ -18,6 +19,8 @@ public:
     // The main window's caption, the title of the questions that concern the whole document.
     virtual std::string caption() const = 0;
     virtual void redrawAllViewports() = 0;
+    // What the viewports draw: the document with the display switches of the menus.
+    virtual ViewportScene viewportScene() = 0;
     // Lays the viewports out for the current layout and size, then redraws.
     virtual void layoutViewports() = 0;
     // The tree anew from the document, the selected items' nodes painted.

@@ -28,6 +28,7 @@ MainMenu::MainMenu() {
     file.add("mnuFileSaveAs", "Save &As...").setShortcuts({"Ctrl+Shift+S"});
     file.add("mnuFileImport", "&Import...");
     file.add("mnuFileExportMesh", "Export &Mesh...");
+    file.add("mnuFileExportImage", "Export &Image...");
     file.add("mnuFileExport", "&Export To Bitmap");
     file.add("mnuFileExit", "E&xit");
 

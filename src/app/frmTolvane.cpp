@@ -53,6 +53,13 @@ void frmTolvane::attachFrame(WindowFrame& frame, FileChooser& files, ColorChoose
     refreshMenus();
 }
 
+void frmTolvane::attachPictureWriter(const PictureWriter& writer) {
+    if (fileDialog) {
+        imageCommands.emplace(*this, viewports, modalHost, *fileDialog, writer);
+        imageCommands->bind(menus);
+    }
+}
+
 bool frmTolvane::Form_QueryUnload() {
     const bool mayClose = !fileCommands || fileCommands->settleUnsavedChanges();
     refreshMenus();
@@ -90,14 +97,18 @@ void frmTolvane::refreshViewports() {
     redraw(false);
 }
 
-void frmTolvane::redraw(bool documentChanged) {
+ViewportScene frmTolvane::viewportScene() {
     // The menu's check marks are the switches of grid and axes.
     ViewportScene scene = document.scene();
     scene.showGrid = menus.item("mnuGrid").isChecked();
     scene.showZeroAxes = menus.item("mnuZeroAxes").isChecked();
     scene.showReferenceAxes = menus.item("mnuReferenceAxes").isChecked();
+    return scene;
+}
+
+void frmTolvane::redraw(bool documentChanged) {
     viewports.redrawAll(
-        scene,
+        viewportScene(),
         [this](Canvas& canvas, const ViewSpecs& record) { mouse.drawOverlay(canvas, record); },
         documentChanged);
 }

@@ -2,6 +2,7 @@
 
 #include "app/EditorPort.h"
 #include "app/FileCommands.h"
+#include "app/ImageCommands.h"
 #include "app/MainMenu.h"
 #include "app/MeshCommands.h"
 #include "app/MouseDispatch.h"
@@ -46,6 +47,9 @@ public:
     // The window that shows this logic, and the choosers its file dialog opens; until then
     // the File menu's commands do nothing and a right press shows no pop-up menu.
     void attachFrame(WindowFrame& frame, FileChooser& files, ColorChooser& colors);
+    // What File > Export Image... writes pictures with, after attachFrame; until then the
+    // command does nothing.
+    void attachPictureWriter(const PictureWriter& writer);
     // Load: draws the start-up document once the canvases are attached.
     void Form_Load();
     // Resize of the client area: lays the viewports out for the new size.
@@ -76,6 +80,7 @@ public:
 
     // What the command groups ask of the editor; the rest of their port is private below.
     void redrawAllViewports() override;
+    ViewportScene viewportScene() override;
     void rebuildTree() override;
     UndoHistory& history() override { return undoHistory; }
 
@@ -139,5 +144,6 @@ private:
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
     std::optional<MeshCommands> meshCommands;
+    std::optional<ImageCommands> imageCommands;
     std::optional<SelectedItemCommands> selectedItemCommands;
 };

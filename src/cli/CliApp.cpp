@@ -13,17 +13,17 @@
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
 #include "macro/MessageText.h"
-#include "qt/QtCanvas.h"
+#include "qt/QtPictureWriter.h"
 #include "render/ViewportRenderer.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <array>
 #include <cctype>
 #include <cerrno>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <system_error>
@@ -60,6 +60,30 @@ ViewSpecs viewFor(const CliOptions& options) {
     return view;
 }
 
+// The image canvas draws text, and fonts need a GUI application; no display is needed to
+// paint into an image. Nothing when the process has an application already.
+std::unique_ptr<QGuiApplication> guiApplication() {
+    if (QCoreApplication::instance() != nullptr) {
+        return nullptr;
+    }
+    static int argc = 1;
+    static char name[] = "korvan-cli";
+    static char* argv[] = {name, nullptr};
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // Qt's notes about its surroundings (no runtime directory on a headless machine, say)
+    // are not failures of the tool, and the tool reports its own failures in one line of
+    // its own; only a fatal error, which ends the process, gets through.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtFatalMsg) {
+            std::fprintf(stderr, "korvan-cli: %s\n",
+                         MessageText::oneLine(text.toStdString()).c_str());
+        }
+    });
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 
 CliApp::CliApp() : files_(PosixFileSystem::instance()) {}
@@ -72,6 +96,9 @@ int CliApp::run(const std::vector<std::string>& args, std::ostream& out, std::os
         switch (options.command) {
         case CliOptions::Command::Help:
             out << CliOptions::helpText();
+            break;
+        case CliOptions::Command::Version:
+            out << "korvan-cli " KORVAN_VERSION "\n";
             break;
         case CliOptions::Command::Render:
             render(options);
@@ -158,41 +185,14 @@ void CliApp::render(const CliOptions& options) const {
         return;
     }
 
-    // The image canvas draws text, and fonts need a GUI application; no display is needed to
-    // paint into an image.
-    std::optional<QGuiApplication> application;
-    int argc = 1;
-    char name[] = "korvan-cli";
-    char* argv[] = {name, nullptr};
-    if (QCoreApplication::instance() == nullptr) {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
-        // Qt's notes about its surroundings (no runtime directory on a headless machine, say)
-        // are not failures of the tool, and the tool reports its own failures in one line of
-        // its own; only a fatal error, which ends the process, gets through.
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-            if (type == QtFatalMsg) {
-                std::fprintf(stderr, "korvan-cli: %s\n",
-                             MessageText::oneLine(text.toStdString()).c_str());
-            }
-        });
-        application.emplace(argc, argv);
-    }
-    QtCanvas canvas(options.width, options.height);
-    renderer.redrawViewport(canvas, view, document.scene());
-    canvas.refresh();
-    // Encoded in memory, so that the file is written the way every output is.
-    QByteArray encoded;
-    QBuffer buffer(&encoded);
-    buffer.open(QIODevice::WriteOnly);
-    if (!canvas.image().save(&buffer, options.format == CliOptions::Format::Bmp ? "BMP" : "PNG")) {
-        throw CliError("cannot write " + CliError::quoted(options.output) +
-                           ": the picture cannot be encoded",
+    const auto application = guiApplication();
+    const PicturePart whole{view, 0, 0, options.width, options.height};
+    const std::string failure = QtPictureWriter(files_).write(
+        options.output, options.width, options.height, {whole}, document.scene());
+    if (!failure.empty()) {
+        throw CliError("cannot write " + CliError::quoted(options.output) + ": " + failure,
                        CliError::failure);
     }
-    writeOutput(options.output, {reinterpret_cast<const uint8_t*>(encoded.constData()),
-                                 static_cast<size_t>(encoded.size())});
 }
 
 void CliApp::info(const CliOptions& options, std::ostream& out) const {
@@ -267,6 +267,10 @@ void CliApp::replay(const CliOptions& options) const {
                                       SvgCanvas(0, 0)};
     HeadlessEditor editor(*macro, {&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
     editor.player.setSandbox(options.sandbox);
+    // File > Export Image... draws its picture again, so it needs no pixels of the canvases.
+    const auto application = guiApplication();
+    const QtPictureWriter pictures(files_);
+    editor.form.attachPictureWriter(pictures);
     try {
         editor.player.playAll();
     } catch (const MacroPlayer::Error& error) {

@@ -236,6 +236,10 @@ CliOptions CliOptions::parse(const std::vector<std::string>& args) {
                     [](const std::string& a) { return a == "-h" || a == "--help"; })) {
         return options;
     }
+    if (std::find(args.begin(), args.end(), "--version") != args.end()) {
+        options.command = Command::Version;
+        return options;
+    }
     if (args.empty()) {
         throw usageError("no command given (try --help)");
     }
@@ -337,6 +341,7 @@ std::string CliOptions::helpText() {
        korvan-cli replay MACRO.txt [-o OUT.tvm] [--svg-dir DIR] [--sandbox DIR]
        korvan-cli convert IN OUT [--ascii] [--selected N,...]
        korvan-cli -h | --help
+       korvan-cli --version
 
 Draws, describes, makes or converts Tavrin Mesh Files (.tvm) without opening the
 editor.
@@ -427,6 +432,7 @@ Options of convert:
                      order, such as 1,3
 
   -h, --help     show this text and exit
+  --version      show the version and exit
 
 The scene's name must end in .tvm and consist of printable ASCII characters,
 as the editor's own file dialogs produce; so must OUT.tvm.

@@ -9,7 +9,7 @@
 
 // The command line of korvan-cli, parsed and checked before any file is touched.
 struct CliOptions {
-    enum class Command { Help, Render, Info, Extrude, Replay, Convert };
+    enum class Command { Help, Version, Render, Info, Extrude, Replay, Convert };
     enum class Format { Png, Bmp, Svg };
 
     // What the extrusion dialog's controls are to hold; the texts are typed in as given, so
@@ -52,7 +52,8 @@ struct CliOptions {
     Extrusion extrusion;
 
     // The arguments after the program name. Throws CliError with the usage status for
-    // anything it cannot make sense of; -h or --help anywhere asks for the help text.
+    // anything it cannot make sense of; -h or --help anywhere asks for the help text, and
+    // --version anywhere else for the version.
     static CliOptions parse(const std::vector<std::string>& args);
     static std::string helpText();
 };

@@ -11,8 +11,6 @@
 #include <QPoint>
 #include <QString>
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
 
 namespace {
 
@@ -233,14 +231,6 @@ void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh
             }
         }
     }
-}
-
-bool QtCanvas::saveImage(const std::string& path) const {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    const char* format = extension == ".bmp" ? "BMP" : extension == ".png" ? "PNG" : nullptr;
-    return format != nullptr && image().save(QString::fromStdString(path), format);
 }
 
 bool QtCanvas::saveBitmap(const std::string& path) const {

@@ -52,9 +52,6 @@ public:
         endPainting();
         return image_;
     }
-    // Writes the image as BMP or PNG, chosen by the file's extension; false for any other
-    // extension or when the file cannot be written.
-    bool saveImage(const std::string& path) const;
 
 private:
     // The open painter, with the pen for the fore colour in the given style and the brush for

@@ -26,9 +26,10 @@ QStringList nameFilters(const std::string& filter) {
     return filters;
 }
 
-// The dialogs that save: "Save File", "Save File As", and the mesh export.
+// The dialogs that save: "Save File", "Save File As", and the mesh and image exports.
 bool savesTo(const std::string& title) {
-    return title.starts_with(std::string_view("Save File")) || title == "Export Mesh";
+    return title.starts_with(std::string_view("Save File")) || title == "Export Mesh" ||
+           title == "Export Image";
 }
 
 // A saved name without an extension takes that of the chosen filter when the filter has one

@@ -2,6 +2,7 @@
 
 #include "app/EventGuard.h"
 #include "app/MenuItem.h"
+#include "io/PosixFileSystem.h"
 #include "qt/CanvasWidget.h"
 #include "qt/DesktopKey.h"
 #include "qt/SceneTreeView.h"
@@ -46,7 +47,8 @@ void showItem(QAction& action, const MenuItem& item) {
 } // namespace
 
 frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
-    : QMainWindow(parent), form_(form), files_(this), colors_(this) {
+    : QMainWindow(parent), form_(form), files_(this), colors_(this),
+      pictures_(PosixFileSystem::instance()) {
     auto* client = new ClientArea([this](int w, int h) { clientResized(w, h); });
     setCentralWidget(client);
 
@@ -100,6 +102,7 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
 
     form_.attachCanvases(canvases);
     form_.attachFrame(*this, files_, colors_);
+    form_.attachPictureWriter(pictures_);
     // The status bar lies outside the client area, as the menu bar does.
     statusBar()->show();
     resize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight +

@@ -4,6 +4,7 @@
 #include "platform/WindowFrame.h"
 #include "qt/QtColorChooser.h"
 #include "qt/QtFileChooser.h"
+#include "qt/QtPictureWriter.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -50,6 +51,7 @@ private:
     frmTolvane& form_;
     QtFileChooser files_;
     QtColorChooser colors_;
+    QtPictureWriter pictures_;
     std::array<CanvasWidget*, 4> canvases_{};
     SceneTreeView* tree_ = nullptr;
     QMenu* popup_ = nullptr;

@@ -12,6 +12,7 @@
 #include "modelling/frmFaceProperty.h"
 #include "modelling/frmPointIndexSelect.h"
 #include "modelling/frmSolidProperty.h"
+#include "qt/ExportImageDialogView.h"
 #include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
 #include "qt/frmAdditionalExtrusionsView.h"
@@ -42,6 +43,7 @@ constexpr int replayStepMs = 10;
 
 void registerViews(QtModalHost& dialogs) {
     dialogs.registerView<frmMouseSensivity, frmMouseSensivityView>();
+    dialogs.registerView<ExportImageDialog, ExportImageDialogView>();
     dialogs.registerView<frmWorkPlaneParametric, frmWorkPlaneParametricView>();
     dialogs.registerView<frmWorkPlaneProperty, frmWorkPlanePropertyView>();
     dialogs.registerView<frmOrientation, frmOrientationView>();

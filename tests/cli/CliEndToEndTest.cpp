@@ -115,6 +115,7 @@ TEST_F(CliEndToEnd, RendersPngAndDescribesTheFile) {
     const Outcome help = run("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.out.starts_with("Usage: korvan-cli render"));
+    EXPECT_EQ(run("info --version").out, "korvan-cli 2.0\n");
 }
 
 TEST_F(CliEndToEnd, DefaultRenderIsWhatTheEditorShowsAtStartUpWithoutFacelessObjects) {
@@ -385,6 +386,8 @@ TEST_F(CliEndToEnd, ReplaysAnEditorSessionToTheFileTheEditorSaved) {
          saved = macro.find("SAVED", saved)) {
         macro.replace(saved, 5, "/nowhere/saved.tvm");
     }
+    macro += "menu \"&File\" \"Export &Image...\"\ndialog \"Export Image\" press cmdExport\n"
+             "file \"/nowhere/picture.png\"\n";
     std::ofstream(dir_ / "session.macro") << macro;
     fs::create_directories(dir_ / "sandbox");
 
@@ -396,4 +399,7 @@ TEST_F(CliEndToEnd, ReplaysAnEditorSessionToTheFileTheEditorSaved) {
     EXPECT_EQ(readAll(dir_ / "replayed.tvm"), editorFile);
     // The one viewport shown draws the solids; the hidden ones are only projected.
     EXPECT_NE(readAll(dir_ / "viewport3.svg").find("<polygon"), std::string::npos);
+    // The picture of the one viewport, at its size in the start-up window.
+    EXPECT_EQ(QImage(QString::fromStdString((dir_ / "sandbox" / "picture.png").string())).size(),
+              QSize(1024, 781));
 }

@@ -1,3 +1,4 @@
+#include "qt/ExportImageDialogView.h"
 #include "qt/frmExtrudeView.h"
 #include "qt/frmFacePropertyView.h"
 #include "qt/frmOrientationView.h"
@@ -145,4 +146,28 @@ TEST(frmSplashView, KeyPressFinishesTheSplash) {
     key(splash, Qt::Key_Space, " ");
     EXPECT_TRUE(finished);
     EXPECT_FALSE(splash.isVisible());
+}
+
+TEST(ExportImageDialogView, TheSizeBoxesOpenForAnOtherSizeAndARefusedOneIsEmptiedAndFocused) {
+    ScriptedPrompts prompts;
+    ExportImageDialog form;
+    form.initialize({{"Viewport 4", 800, 600}, {"All four", 1600, 1200}});
+    ExportImageDialogView view(form);
+    showNow(view);
+    QLineEdit& width = child<QLineEdit>(view, "txtWidth");
+    EXPECT_FALSE(width.isEnabled());
+    child<QRadioButton>(view, "optTypedSize").click();
+    EXPECT_TRUE(width.isEnabled());
+    EXPECT_EQ(view.focusWidget(), &width);
+
+    typeInto(width, "0");
+    key(width, Qt::Key_Return);
+    EXPECT_EQ(prompts.messages().size(), 1u);
+    EXPECT_EQ(width.text(), "");
+    typeInto(width, "32");
+    key(width, Qt::Key_Return); // the default button
+    ASSERT_TRUE(form.hasAccepted());
+    EXPECT_EQ(form.getWidth(), 32);
+    EXPECT_EQ(form.getHeight(), 600);
+    EXPECT_FALSE(view.isVisible());
 }

@@ -118,21 +118,17 @@ TEST(QtCanvas, StretchBlitOrScalesAndCombines) {
     EXPECT_EQ(at(canvas, 39, 39), 0xFF80FFu);
 }
 
-TEST(QtCanvas, SavesBmpAndPngOnlyAndABitmapWholeOrNotAtAll) {
+TEST(QtCanvas, SavesABitmapWholeOrNotAtAll) {
     QTemporaryDir dir;
     QtCanvas canvas(16, 8);
     canvas.setBackColor(Red);
     canvas.clear();
     const std::string folder = dir.path().toStdString();
-    for (const char* name : {"/view.bmp", "/view.PNG", "/saved.bmp"}) {
-        const std::string path = folder + name;
-        ASSERT_TRUE(name[1] == 's' ? canvas.saveBitmap(path) : canvas.saveImage(path)) << name;
-        const QImage loaded(QString::fromStdString(path));
-        ASSERT_EQ(loaded.size(), QSize(16, 8)) << name;
-        EXPECT_EQ(loaded.pixel(3, 3) & 0xFFFFFF, RedPixel) << name;
-    }
-    EXPECT_FALSE(canvas.saveImage(folder + "/view.jpg"));
+    ASSERT_TRUE(canvas.saveBitmap(folder + "/saved.bmp"));
+    const QImage loaded(QString::fromStdString(folder + "/saved.bmp"));
+    ASSERT_EQ(loaded.size(), QSize(16, 8));
+    EXPECT_EQ(loaded.pixel(3, 3) & 0xFFFFFF, RedPixel);
     EXPECT_FALSE(canvas.saveBitmap(folder + "/missing/view.bmp"));
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries, QDir::Name),
-              (QStringList{"saved.bmp", "view.PNG", "view.bmp"}));
+              (QStringList{"saved.bmp"}));
 }
