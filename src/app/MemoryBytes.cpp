@@ -23,7 +23,7 @@ size_t of(const Solid3d& solid) {
     size_t bytes = shared<Solid3d> + (static_cast<size_t>(solid.getPointUpperBound()) + 1) *
                                          (sizeof(PointRecord) + sizeof(uint8_t));
     for (const auto& face : solid.faces) {
-        bytes += shared<Face3d> + face->getIndices().capacity() * sizeof(int32_t);
+        bytes += shared<Face3d> + face->getIndices().heapBytes();
     }
     return bytes;
 }

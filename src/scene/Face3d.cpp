@@ -44,7 +44,7 @@ void Face3d::addIndex(int32_t index) {
 }
 
 void Face3d::SetPoints(const std::vector<int32_t>& indices) {
-    indices_ = indices;
+    indices_ = CornerIndices(indices);
     NumPts = static_cast<int32_t>(indices_.size());
 }
 

@@ -2,6 +2,7 @@
 
 #include "geometry/Matrix4.h"
 #include "render/LightSource.h"
+#include "scene/CornerIndices.h"
 
 #include <cstdint>
 #include <memory>
@@ -44,7 +45,7 @@ public:
     bool deletePointIndex(int32_t index);
     // Reverses the corner order, which flips the normal.
     void switchIndexOrientation();
-    const std::vector<int32_t>& getIndices() const { return indices_; }
+    const CornerIndices& getIndices() const { return indices_; }
     // The solid whose points the indices refer to. The face does not own it; the solid
     // clears it when it is destroyed.
     void setSolidContainer(Solid3d* solid) { solid_ = solid; }
@@ -105,7 +106,7 @@ private:
     void paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
                bool wireFrame) const;
 
-    std::vector<int32_t> indices_;
+    CornerIndices indices_;
     Solid3d* solid_ = nullptr;
     bool selected_ = false;
     int32_t orderNumber_ = 0;
