@@ -12,7 +12,7 @@
 
 class GDIRegion;
 class Solid3d;
-struct PointRecord;
+struct Point4;
 
 // One planar polygon of a solid. It holds no coordinates: it lists 1-based indices into
 // its solid's point records in the order its corners are visited, and carries the
@@ -98,7 +98,8 @@ public:
 private:
     // NumPts while the face has a solid to read its points from, else 0.
     int32_t cornerCount() const { return solid_ != nullptr ? NumPts : 0; }
-    const PointRecord& record(int corner) const;
+    const Point4& coordOf(int corner) const;
+    const Point4& transOf(int corner) const;
     template <class Step> void transformCorners(Step step);
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
     // The corners' transformed x and y, rounded to whole pixels.
