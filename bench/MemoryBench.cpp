@@ -33,7 +33,7 @@ void BM_MemoryPerFace(benchmark::State& state) {
         TavrinMeshIO().saveFile(document.solids, file);
     }
     std::array<QtCanvas, 4> canvases{QtCanvas(1, 1), QtCanvas(1, 1), QtCanvas(1, 1),
-                                      QtCanvas(1, 1)};
+                                     QtCanvas(1, 1)};
     QtModalHost dialogs;
     frmTolvane form(dialogs);
     form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
