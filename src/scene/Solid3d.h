@@ -70,6 +70,10 @@ public:
         return points_.empty() ? 1 : static_cast<int32_t>(points_.size()) - 1;
     }
     int32_t getNextPointIndex() const { return nextPointIndex_; }
+    // What one point's storage takes: coord, trans, coord2 once kept, and the flag below.
+    size_t bytesPerPoint() const {
+        return sizeof(StoredPoint) + (coord2_.empty() ? 0 : sizeof(Point4)) + sizeof(uint8_t);
+    }
 
     void SetDiffuseCoefficients(float kr, float kg, float kb);
     void SetAmbientCoefficients(float kr, float kg, float kb);
