@@ -1,4 +1,5 @@
 #include "../tests/support/LiteralFaceOrder.h"
+#include "../tests/support/LiteralRedraw.h"
 #include "BenchScenes.h"
 #include "app/frmTolvane.h"
 #include "qt/QtCanvas.h"
@@ -9,19 +10,51 @@
 
 namespace {
 
-// The main window's full redraw for a 1600 x 900 client area, painted into Qt canvases:
-// what every mouse movement over a viewport costs.
-void redrawAll(benchmark::State& state, const SceneDocument& document) {
+// The main window for a 1600 x 900 client area, painting into Qt canvases, with the document
+// and the layout given.
+struct Editor {
     std::array<QtCanvas, 4> canvases{QtCanvas(1, 1), QtCanvas(1, 1), QtCanvas(1, 1),
                                      QtCanvas(1, 1)};
     QtModalHost dialogs;
-    frmTolvane form(dialogs);
-    form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
-    form.getDocument().solids = document.solids;
-    form.getViewports().viewportLayout = static_cast<int32_t>(state.range(0));
-    form.Form_Resize(1600, 900);
+    frmTolvane form{dialogs};
+
+    Editor(const SceneDocument& document, int layout) {
+        form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
+        form.getDocument().solids = document.solids;
+        form.getViewports().viewportLayout = layout;
+        form.Form_Resize(1600, 900);
+    }
+    // Turns every view a little, as the torus benchmark does, so that no kept picture can
+    // answer: eight steps and back.
+    void turnViews(int64_t iteration) {
+        for (int number = 1; number <= 4; ++number) {
+            form.getViewports().viewSpecs(number).EyeTheta +=
+                (iteration / 8) % 2 == 0 ? 0.0175f : -0.0175f;
+        }
+    }
+};
+
+// The full redraw every change of the document costs: the program's, and the plain one
+// (the viewports one after the other, each in the document, with the plain face order).
+void redrawAll(benchmark::State& state, const SceneDocument& document, bool literal) {
+    Editor editor(document, static_cast<int>(state.range(0)));
+    ViewportSet& viewports = editor.form.getViewports();
+    int64_t iteration = 0;
     for (auto _ : state) {
-        form.redrawAllViewports();
+        editor.turnViews(iteration++);
+        if (!literal) {
+            editor.form.redrawAllViewports();
+            continue;
+        }
+        ViewportScene scene = editor.form.getDocument().scene();
+        for (int i = 0; i < 4; ++i) {
+            Canvas& canvas = *viewports.canvas(i);
+            if (canvas.isVisible()) {
+                LiteralRedraw::redrawViewport(canvas, viewports.viewSpecs(i + 1), scene);
+            } else {
+                LiteralRedraw::project(canvas, viewports.viewSpecs(i + 1), scene);
+            }
+        }
         benchmark::ClobberMemory();
     }
 }
@@ -29,20 +62,55 @@ void redrawAll(benchmark::State& state, const SceneDocument& document) {
 } // namespace
 
 static void BM_RedrawAll_StartUp(benchmark::State& state) {
-    redrawAll(state, SceneDocument::startUp());
+    redrawAll(state, SceneDocument::startUp(), false);
 }
 static void BM_RedrawAll_20Prisms(benchmark::State& state) {
-    redrawAll(state, BenchScenes::twentyPrisms());
+    redrawAll(state, BenchScenes::twentyPrisms(), false);
 }
-// The same redraw with the plain quadratic face order and with the program's: the pair
-// shows what the fast order is worth to a whole redraw.
 static void BM_RedrawAllTwisted_Literal(benchmark::State& state) {
     FaceOrder::sorterInUse = [](const FaceOrder::Faces& faces) { return literalSortFaces(faces); };
-    redrawAll(state, BenchScenes::twistedExtrusion());
+    redrawAll(state, BenchScenes::twistedExtrusion(), true);
     FaceOrder::sorterInUse = &FaceOrder::sort;
 }
 static void BM_RedrawAllTwisted_Fast(benchmark::State& state) {
-    redrawAll(state, BenchScenes::twistedExtrusion());
+    redrawAll(state, BenchScenes::twistedExtrusion(), false);
+}
+// The plain redraw with the program's face order: what the kept buffers, the parallel views
+// and the leaner faces are worth beside the order.
+static void BM_RedrawAllTwisted_Serial(benchmark::State& state) {
+    redrawAll(state, BenchScenes::twistedExtrusion(), true);
+}
+// A mouse move without a button over the isometric viewport: the views stay, so the kept
+// pictures answer.
+static void BM_HoverTwisted(benchmark::State& state) {
+    Editor editor(BenchScenes::twistedExtrusion(), static_cast<int>(state.range(0)));
+    float x = 0;
+    for (auto _ : state) {
+        x = x > 300 ? 0 : x + 1;
+        editor.form.picOrtho_MouseMove(3, 0, 0, 100 + x, 100);
+    }
+}
+// One step of a rotate drag in the isometric viewport, drawn with the depth buffer while
+// the button is held, its view turning every step.
+static void BM_DragStepTwisted(benchmark::State& state) {
+    Editor editor(BenchScenes::twistedExtrusion(), static_cast<int>(state.range(0)));
+    editor.form.enableDragPictures(true);
+    editor.form.picOrtho_MouseDown(3, 1, 0, 100, 100);
+    int64_t iteration = 0;
+    for (auto _ : state) {
+        const float dx = (iteration++ / 8) % 2 == 0 ? 2.0f : -2.0f;
+        editor.form.picOrtho_MouseMove(3, 1, 0, 100 + dx * static_cast<float>(iteration % 8), 100);
+    }
+}
+// All views at rest with the depth-buffered option, turning every iteration.
+static void BM_DepthBufferTwisted(benchmark::State& state) {
+    Editor editor(BenchScenes::twistedExtrusion(), static_cast<int>(state.range(0)));
+    editor.form.getViewports().depthBufferedAtRest = true;
+    int64_t iteration = 0;
+    for (auto _ : state) {
+        editor.turnViews(iteration++);
+        editor.form.redrawAllViewports();
+    }
 }
 BENCHMARK(BM_RedrawAll_StartUp)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RedrawAll_20Prisms)->ArgName("layout")->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
@@ -51,8 +119,21 @@ BENCHMARK(BM_RedrawAllTwisted_Literal)
     ->Arg(1)
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RedrawAllTwisted_Serial)->ArgName("layout")->Arg(4)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RedrawAllTwisted_Fast)
     ->ArgName("layout")
     ->Arg(1)
     ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(BM_HoverTwisted)->ArgName("layout")->Arg(4)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_DragStepTwisted)
+    ->ArgName("layout")
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(BM_DepthBufferTwisted)
+    ->ArgName("layout")
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();

@@ -51,6 +51,7 @@ MainMenu::MainMenu() {
     MenuItem& viewports = options.add("mnuSetViewports", "&Set Viewports");
     viewports.add("mnuOneWindow", "&One Window");
     viewports.add("mnuFourWindows", "&Four Windows");
+    options.add("mnuDepthBufferedPictures", "&Depth-Buffered Pictures");
 
     MenuItem& view = bar.add("mnuView", "&View");
     MenuItem& projection = view.add("mnuProjectionType", "&Projection Type");

@@ -48,6 +48,13 @@ void ViewCommands::bind(MainMenu& menus, EditorPort& editor, ViewportSet& viewpo
         w->layoutViewports();
     });
 
+    // For very large meshes: pictures at rest drawn with a depth buffer, without the order.
+    MenuItem* depthBuffered = &menus.item("mnuDepthBufferedPictures");
+    menus.bind("mnuDepthBufferedPictures", [w, v, depthBuffered] {
+        v->depthBufferedAtRest = toggle(*depthBuffered);
+        w->redrawAllViewports();
+    });
+
     menus.bind("mnuParallel", [all] { all([](ViewSpecs& r) { r.ProjectionType = 0; }); });
     menus.bind("mnuPerspective", [all] { all([](ViewSpecs& r) { r.ProjectionType = 1; }); });
     menus.bind("mnuPopupParallel", [popup] { popup([](ViewSpecs& r) { r.ProjectionType = 0; }); });

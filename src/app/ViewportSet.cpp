@@ -59,18 +59,83 @@ void ViewportSet::layoutViewports() {
     treePlacement = ControlPlacement{px(W), 0, px(clientWidth / 5.0), clientHeight};
 }
 
+ViewportSet::PictureKey ViewportSet::keyOf(size_t index, const ViewportScene& scene) const {
+    const Canvas& canvas = *picOrtho[index];
+    PictureKey key;
+    key.record = records[index];
+    key.record.anchorX = 0;
+    key.record.anchorY = 0;
+    key.width = canvas.scaleWidth();
+    key.height = canvas.scaleHeight();
+    const bool depth = depthBufferedAtRest || draggedViewport == static_cast<int>(index);
+    key.paint = !canvas.isVisible() ? ViewportPaint::Project
+                : depth             ? ViewportPaint::Depth
+                                    : ViewportPaint::Exact;
+    key.showGrid = scene.showGrid;
+    key.showZeroAxes = scene.showZeroAxes;
+    key.showReferenceAxes = scene.showReferenceAxes;
+    return key;
+}
+
 void ViewportSet::redrawAll(const ViewportScene& scene,
-                            const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay) {
+                            const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay,
+                            bool documentChanged) {
+    std::vector<ViewportTarget> targets;
+    std::array<bool, 4> rendered{};
+    bool any = false;
     for (size_t i = 0; i < 4; ++i) {
         if (picOrtho[i] == nullptr) {
             continue;
         }
-        if (!picOrtho[i]->isVisible()) {
-            renderer.project(*picOrtho[i], records[i], scene);
+        const PictureKey key = keyOf(i, scene);
+        const bool again = documentChanged || kept_[i] != key;
+        rendered[i] = again;
+        any = any || again;
+        kept_[i] = key;
+        targets.push_back(ViewportTarget{picOrtho[i], &records[i],
+                                         again ? key.paint
+                                         : key.paint == ViewportPaint::Project
+                                             ? ViewportPaint::Project
+                                             : ViewportPaint::Keep});
+    }
+    // A step of a drag renders its viewport alone; the rest waits for the release.
+    const bool dragStep =
+        !documentChanged && draggedViewport >= 0 &&
+        std::all_of(targets.begin(), targets.end(), [&](const ViewportTarget& target) {
+            return target.canvas == picOrtho[static_cast<size_t>(draggedViewport)] ||
+                   target.paint == ViewportPaint::Keep || target.paint == ViewportPaint::Project;
+        });
+    if (dragStep) {
+        for (ViewportTarget& target : targets) {
+            if (target.canvas != picOrtho[static_cast<size_t>(draggedViewport)]) {
+                target.paint = ViewportPaint::Untouched;
+            }
+        }
+    } else if (draggedBefore_) {
+        any = true; // the first redraw after a drag projects every viewport again
+    }
+    draggedBefore_ = dragStep && any;
+    if (any) {
+        renderer.redraw(targets, scene);
+    }
+    for (size_t i = 0; i < 4; ++i) {
+        Canvas* canvas = picOrtho[i];
+        if (canvas == nullptr || !canvas->isVisible()) {
             continue;
         }
-        renderer.redrawViewport(*picOrtho[i], records[i], scene);
-        drawOverlay(*picOrtho[i], records[i]);
-        picOrtho[i]->refresh();
+        if (rendered[i]) {
+            canvas->keepPicture();
+        } else if (!canvas->restorePicture()) {
+            // A canvas that keeps no picture is rendered again, alone: nothing else changed.
+            std::vector<ViewportTarget> alone = targets;
+            for (size_t k = 0; k < alone.size(); ++k) {
+                alone[k].paint = alone[k].canvas == canvas                  ? kept_[i]->paint
+                                 : alone[k].paint == ViewportPaint::Project ? ViewportPaint::Project
+                                                                            : ViewportPaint::Keep;
+            }
+            renderer.redraw(alone, scene);
+        }
+        drawOverlay(*canvas, records[i]);
+        canvas->refresh();
     }
 }

@@ -60,8 +60,20 @@ public:
     // it lays the canvases out again, which redraws. Projecting it keeps the points of
     // faces culled in later viewports where a full redraw leaves them. picOrtho(3) is
     // never hidden and comes last, so depths and light ranges stay those it sets.
+    //
+    // Each canvas keeps its rendered picture. With documentChanged false the caller vouches
+    // that nothing a picture shows changed since the last redraw but the view records, sizes
+    // and switches, and only the viewports whose own changed are rendered again; the others
+    // get their kept picture back under a fresh overlay. Whenever one is rendered, all four are
+    // projected, so that the document is left as a full redraw leaves it.
     void redrawAll(const ViewportScene& scene,
-                   const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay);
+                   const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay,
+                   bool documentChanged = true);
+    // Pictures at rest drawn with a depth buffer instead of the face order (off at start).
+    bool depthBufferedAtRest = false;
+    // The viewport, 0 to 3, that a navigation drag turns: drawn with a depth buffer until the
+    // drag ends (-1: none). Its picture is rendered again, exactly, at the next redraw after.
+    int draggedViewport = -1;
 
 private:
     std::array<ViewSpecs, 4> records;
@@ -70,4 +82,16 @@ private:
     int clientHeight = 0;
     ControlPlacement treePlacement;
     ViewportRenderer renderer;
+    // What a kept picture was rendered from; a picture is rendered again when it differs.
+    struct PictureKey {
+        ViewSpecs record; // with the anchors zeroed: the mouse position draws nothing
+        int width = 0;
+        int height = 0;
+        ViewportPaint paint = ViewportPaint::Project;
+        bool showGrid = false, showZeroAxes = false, showReferenceAxes = false;
+        bool operator==(const PictureKey&) const = default;
+    };
+    PictureKey keyOf(size_t index, const ViewportScene& scene) const;
+    std::array<std::optional<PictureKey>, 4> kept_;
+    bool draggedBefore_ = false; // the last redraw rendered a drag step alone
 };

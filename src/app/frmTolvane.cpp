@@ -83,14 +83,23 @@ void frmTolvane::layoutViewports() {
 }
 
 void frmTolvane::redrawAllViewports() {
+    redraw(true);
+}
+
+void frmTolvane::refreshViewports() {
+    redraw(false);
+}
+
+void frmTolvane::redraw(bool documentChanged) {
     // The menu's check marks are the switches of grid and axes.
     ViewportScene scene = document.scene();
     scene.showGrid = menus.item("mnuGrid").isChecked();
     scene.showZeroAxes = menus.item("mnuZeroAxes").isChecked();
     scene.showReferenceAxes = menus.item("mnuReferenceAxes").isChecked();
-    viewports.redrawAll(scene, [this](Canvas& canvas, const ViewSpecs& record) {
-        mouse.drawOverlay(canvas, record);
-    });
+    viewports.redrawAll(
+        scene,
+        [this](Canvas& canvas, const ViewSpecs& record) { mouse.drawOverlay(canvas, record); },
+        documentChanged);
 }
 
 template <class Item>
@@ -176,7 +185,13 @@ void frmTolvane::picOrtho_MouseDown(int index, int button, int shift, float x, f
     if (!mouse.mouseDown(index, button, x, y)) {
         return;
     }
-    redrawAllViewports();
+    // A press that only navigates changes no more than its view; the other modes' presses
+    // select, add points and open dialogs.
+    if (mouse.getMouseMode().navigates()) {
+        refreshViewports();
+    } else {
+        redrawAllViewports();
+    }
     refreshMenus();
 }
 
@@ -187,23 +202,37 @@ void frmTolvane::picOrtho_MouseMove(int index, int button, int shift, float x, f
     if (!mouse.mouseMove(index, button, x, y)) {
         return;
     }
-    redrawAllViewports();
+    // A move changes at most the views.
+    if (dragPictures_ && button == 1 && mouse.getMouseMode().navigates()) {
+        viewports.draggedViewport = index;
+    }
+    refreshViewports();
     viewports.canvas(index)->refresh();
     refreshMenus();
+}
+
+void frmTolvane::picOrtho_MouseUp() {
+    if (viewports.draggedViewport != -1) {
+        viewports.draggedViewport = -1;
+        refreshViewports();
+    }
 }
 
 void frmTolvane::Form_KeyDown(int KeyCode) {
     if (userEvents != nullptr) {
         userEvents->keyPressed(KeyCode);
     }
+    bool acted = true;
     if (KeyCode == 13 && selectedItemCommands) {
         selectedItemCommands->showSelectedProperties();
     } else if (KeyCode == 67) {
         profileCommands.closeProfile();
     } else if (KeyCode == 69 && selectedItemCommands) {
         selectedItemCommands->Extrude();
+    } else {
+        acted = false; // any other key changes nothing a picture shows
     }
-    redrawAllViewports();
+    redraw(acted);
     refreshMenus();
 }
 

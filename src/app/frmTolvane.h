@@ -55,6 +55,11 @@ public:
     // their sums; coordinates in canvas pixels.
     void picOrtho_MouseDown(int index, int button, int shift, float x, float y);
     void picOrtho_MouseMove(int index, int button, int shift, float x, float y);
+    // The window's part of a drag, which macros do not record: with drag pictures on (the
+    // window turns them on; off at start), a navigation drag draws its viewport with a depth
+    // buffer, and the release, or a pause the window notices, draws it exactly again.
+    void enableDragPictures(bool on) { dragPictures_ = on; }
+    void picOrtho_MouseUp();
     // A key pressed in the window (key codes of the desktop): Enter (13) shows the selected
     // items' properties, C (67) closes the profile, E (69) extrudes the selected profiles.
     void Form_KeyDown(int KeyCode);
@@ -94,6 +99,9 @@ public:
     static constexpr int startUpClientHeight = 781;
 
 private:
+    // Redraws for a change of views alone: only pictures whose view changed are rendered.
+    void refreshViewports();
+    void redraw(bool documentChanged);
     void layoutViewports() override;
     void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) override {
         mouse.setMouseMode(std::move(mode));
@@ -127,6 +135,7 @@ private:
     MainMenu menus;
     UserEventListener* userEvents = nullptr;
     WindowFrame* windowFrame = nullptr;
+    bool dragPictures_ = false;
     std::optional<CommonDialogNoOCX> fileDialog;
     std::optional<FileCommands> fileCommands;
     std::optional<MeshCommands> meshCommands;

@@ -12,6 +12,7 @@ public:
     std::optional<viewInfo> handleRightClick(MouseEventArgs& args) override;
     std::optional<viewInfo> handleMiddleClick(MouseEventArgs& args) override;
     std::optional<viewInfo> handleMouseMove(MouseEventArgs& args) override;
+    bool navigates() const override { return true; }
 
 protected:
     // Changes the record for a drag of (dx, dy) pixels at the given sensitivity.

@@ -26,4 +26,6 @@ public:
     virtual std::optional<viewInfo> handleMouseMove(MouseEventArgs& args);
     // Paints the mode's overlay after a redraw; true when it drew something.
     virtual bool drawDatum(MouseEventArgs& args);
+    // Whether a drag in this mode only moves the view (rotate, pan, zoom).
+    virtual bool navigates() const { return false; }
 };

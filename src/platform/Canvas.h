@@ -70,6 +70,14 @@ public:
     virtual void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,
                                int sw, int sh) = 0;
 
+    // Keeps a copy of the picture as it is now; restorePicture puts it back, and is false when
+    // nothing of this size is kept. A canvas that keeps no image keeps nothing.
+    virtual void keepPicture() {}
+    virtual bool restorePicture() { return false; }
+    // Paints the pixels of image whose top byte is set over the picture, the image's top-left
+    // pixel on the canvas's; the others leave the picture as it is. A canvas that keeps no image
+    // has nothing to paint on.
+    virtual void overlayPixels(const Bitmap& /*image*/) {}
     // Placement in the owning window, in the window's pixels; a canvas in a window takes the
     // new size. A canvas that lives in no window (a file being written) ignores it.
     virtual void move(int /*left*/, int /*top*/, int /*width*/, int /*height*/) {}

@@ -92,3 +92,8 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
     emit mouseMoved(buttonCode(event->buttons()), shiftState(event->modifiers()),
                     event->position().x(), event->position().y());
 }
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    emit mouseReleased();
+}

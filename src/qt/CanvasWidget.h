@@ -18,6 +18,7 @@ public:
 signals:
     void mousePressed(int button, int shift, double x, double y);
     void mouseMoved(int button, int shift, double x, double y);
+    void mouseReleased();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -25,6 +26,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     // The canvas of a widget: placement, visibility, pointer and refresh act on the widget.

@@ -120,7 +120,9 @@ void QtCanvas::polygon(const std::vector<CanvasPoint>& points) {
     }
     if (fillStyle() == FillSolid && drawStyle() == DrawInvisible) {
         const PackedColor c = PackedColor::split(fillColor());
-        filler_.fill(image_, points, qRgb(c.red, c.green, c.blue));
+        filler_.fill(reinterpret_cast<uint32_t*>(image_.bits()),
+                     static_cast<int>(image_.bytesPerLine() / 4), image_.width(), image_.height(),
+                     points, qRgb(c.red, c.green, c.blue));
         return;
     }
     corners_.clear();
@@ -165,6 +167,35 @@ void QtCanvas::move(int, int, int width, int height) {
 
 void QtCanvas::refresh() {
     endPainting();
+}
+
+void QtCanvas::keepPicture() {
+    endPainting();
+    kept_ = image_;
+}
+
+bool QtCanvas::restorePicture() {
+    if (kept_.isNull() || kept_.size() != image_.size()) {
+        return false;
+    }
+    endPainting();
+    image_ = kept_;
+    return true;
+}
+
+void QtCanvas::overlayPixels(const Bitmap& image) {
+    endPainting();
+    const int width = std::min(image.width, image_.width());
+    const int height = std::min(image.height, image_.height());
+    for (int y = 0; y < height; ++y) {
+        const uint32_t* source = image.pixels.data() + static_cast<size_t>(y) * image.width;
+        auto* target = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        for (int x = 0; x < width; ++x) {
+            if ((source[x] >> 24) != 0) {
+                target[x] = source[x] | 0xFF000000u;
+            }
+        }
+    }
 }
 
 void QtCanvas::stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
-#include "qt/ScanlineFiller.h"
+#include "render/ScanlineFiller.h"
 
 #include <QFont>
 #include <QImage>
@@ -41,6 +41,10 @@ public:
     void stretchBlitOr(const Bitmap& image, int dx, int dy, int dw, int dh, int sx, int sy, int sw,
                        int sh) override;
 
+    // The kept picture shares the image's pixels until either is painted on.
+    void keepPicture() override;
+    bool restorePicture() override;
+    void overlayPixels(const Bitmap& image) override;
     // Replaces the file whole or not at all.
     bool saveBitmap(const std::string& path) const override;
 
@@ -59,6 +63,7 @@ private:
     void endPainting() const;
 
     QImage image_;
+    QImage kept_;
     mutable QPainter painter_;
     int32_t penColor_ = 0;
     int penStyle_ = -1; // no pen set yet

@@ -71,8 +71,20 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
                         form_.picOrtho_MouseMove(i, button, shift, static_cast<float>(x),
                                                  static_cast<float>(y));
                     });
+                    if (button != 0) {
+                        dragPause_.start();
+                    }
                 });
+        connect(widget, &CanvasWidget::mouseReleased, this,
+                [this] { EventGuard::run([&] { form_.picOrtho_MouseUp(); }); });
     }
+    // A drag draws its viewport with a depth buffer; the release, or a pause this long with
+    // the button held, draws the exact picture.
+    form_.enableDragPictures(true);
+    dragPause_.setSingleShot(true);
+    dragPause_.setInterval(250);
+    connect(&dragPause_, &QTimer::timeout, this,
+            [this] { EventGuard::run([&] { form_.picOrtho_MouseUp(); }); });
     MenuItem& popup = form_.getMenus().getPopupMenu();
     for (const auto& menu : form_.getMenus().getMenuBar().getChildren()) {
         auto* shown = new QMenu(QString::fromStdString(menu->getCaption()), this);

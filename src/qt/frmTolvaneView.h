@@ -6,6 +6,7 @@
 #include "qt/QtFileChooser.h"
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 
 class CanvasWidget;
@@ -55,4 +56,5 @@ private:
     bool busy_ = false;
     // Set by unload: the logic has settled unsaved work already.
     bool unloading_ = false;
+    QTimer dragPause_;
 };

@@ -10,11 +10,37 @@
 class Canvas;
 class Transformed3d;
 
-// Redraws one viewport of a document: culls, transforms and clips everything with the
-// viewport's full matrix, orders the objects back to front, fits the lights, clears the
-// canvas and paints grid, objects, workplanes, profiles and the axes glyphs. The caller
-// adds its mouse mode's overlay and refreshes the canvas. The editor and the command-line
-// tool both draw through it, so that they draw the same pictures.
+// How a redraw treats one viewport.
+enum class ViewportPaint {
+    Untouched, // left as it is: neither projected nor drawn
+    Project,   // hidden: projected only, nothing painted
+    Keep,      // shown, its picture kept: projected and drawn into nothing
+    Exact,     // painted back to front in the painter's face order
+    Depth,     // painted with a depth buffer where the order would be needed
+};
+
+// One viewport of a redraw: its canvas (whose size places the picture), its view record and
+// what is painted.
+struct ViewportTarget {
+    Canvas* canvas;
+    const ViewSpecs* record;
+    ViewportPaint paint;
+};
+
+// Redraws viewports of a document: culls, transforms and clips everything with each
+// viewport's full matrix, orders the objects back to front, fits the lights, clears the canvas
+// and paints grid, objects, workplanes, profiles and the axes glyphs. The caller adds its mouse
+// mode's overlay and refreshes the canvas. The editor and the command-line tool both draw
+// through it, so that they draw the same pictures.
+//
+// Several viewports are redrawn at once: the objects of each are projected into buffers of
+// its own and painted on both cores (the document is only read meanwhile), the small rest
+// (grid, workplanes, profiles, axes) one viewport after the other. The document is then left
+// as redrawing the viewports one after another in order leaves it: a point keeps the
+// projection of the last viewport whose faces reached it, and the faces' culling, the objects'
+// depths and flags and the lights' ranges are those of the last viewport. Viewports left
+// untouched take no part: a redraw that leaves some is one step of a drag, and the document
+// holds what a full redraw leaves only once one without them follows.
 class ViewportRenderer {
 public:
     // Rendering constants of every viewport.
@@ -25,17 +51,34 @@ public:
     static constexpr int workplaneFillStyle = 7;
     static constexpr int workplaneTintRed = 0, workplaneTintGreen = 150, workplaneTintBlue = 0;
 
+    ViewportRenderer();
+    ~ViewportRenderer();
+    ViewportRenderer(const ViewportRenderer&) = delete;
+    ViewportRenderer& operator=(const ViewportRenderer&) = delete;
+
+    void redraw(const std::vector<ViewportTarget>& targets, const ViewportScene& scene);
+    // One viewport, painted in the exact order.
     void redrawViewport(Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
-    // What a redraw leaves in the document, without painting: culls, transforms and clips
-    // everything for the canvas. A point of faces culled here keeps the projection of the
-    // last viewport that reached it, so a viewport nobody sees is still projected.
-    void project(const Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
-    // The objects in painting order: ascending largest depth, farthest first.
-    std::vector<std::shared_ptr<Transformed3d>>
-    sortSolidsByDepth(const std::vector<std::shared_ptr<Transformed3d>>& solids);
 
 private:
-    void transform(const Canvas& canvas, const ViewSpecs& record, const ViewportScene& scene);
+    struct View;
+    void see(View& view, const ViewportScene& scene) const;
+    void fitLights(View& view, const ViewportScene& scene) const;
+    void paintObjects(View& view, const ViewportScene& scene) const;
+    void drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const;
+    void store(const std::vector<View>& views, const ViewportScene& scene) const;
 
-    std::unique_ptr<RadixSort<Transformed3d>> depthSorter_;
+    // Per viewport, kept so that the object order's buffers are reused.
+    std::vector<std::unique_ptr<RadixSort<Transformed3d>>> depthSorters_;
+    // What every viewport reads of each face, per object, computed once per redraw: its
+    // normal (three values) and the squares of its nearest and farthest corner's distance
+    // from each light (two per light).
+    struct FaceFacts {
+        std::vector<float> normals;
+        std::vector<double> lightSquares;
+    };
+    template <class Work> static void inParts(const ViewportScene& scene, Work work);
+    void gatherNormals(const ViewportScene& scene);
+    void gatherLightSquares(const ViewportScene& scene, const std::vector<View>& views);
+    std::vector<FaceFacts> facts_;
 };

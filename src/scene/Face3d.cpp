@@ -139,6 +139,13 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
     }
     double smallest = 1e300;
     double largest = -1e300;
+    squaredLightDistances(light_x, light_y, light_z, smallest, largest);
+    Rmin = static_cast<float>(std::sqrt(smallest));
+    Rmax = static_cast<float>(std::sqrt(largest));
+}
+
+void Face3d::squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
+                                   double& largest) const {
     for (int corner = 1; corner <= cornerCount(); ++corner) {
         const Point4& c = coordOf(corner);
         const double dx = c.x - light_x;
@@ -148,8 +155,6 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
         smallest = std::min(smallest, squared);
         largest = std::max(largest, squared);
     }
-    Rmin = static_cast<float>(std::sqrt(smallest));
-    Rmax = static_cast<float>(std::sqrt(largest));
 }
 
 float Face3d::zmax() const {
@@ -226,20 +231,27 @@ void Face3d::ApplyCoord(const Matrix4& M) {
 }
 
 void Face3d::cull(float eye_x, float eye_y, float eye_z) {
+    IsCulled = facesAwayFrom(eye_x, eye_y, eye_z);
+}
+
+bool Face3d::facesAwayFrom(float eye_x, float eye_y, float eye_z) const {
     float nx;
     float ny;
     float nz;
     NormalVector(nx, ny, nz);
+    return facesAway(nx, ny, nz, eye_x, eye_y, eye_z);
+}
+
+bool Face3d::facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const {
     if (cornerCount() < 1) {
-        IsCulled = true;
-        return;
+        return true;
     }
     const Point4& p = coordOf(1);
     const auto d = static_cast<float>(static_cast<double>(nx) * (p.x - eye_x) +
                                       static_cast<double>(ny) * (p.y - eye_y) +
                                       static_cast<double>(nz) * (p.z - eye_z));
     // Only faces turned towards the eye by more than the tolerance stay; edge-on is culled.
-    IsCulled = !(-0.0001 >= d);
+    return !(-0.0001 >= d);
 }
 
 void Face3d::clipEye(float eyeR) {
@@ -288,8 +300,8 @@ std::vector<CanvasPoint> Face3d::canvasPoints() const {
     return points;
 }
 
-void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
-                   bool wireFrame) const {
+void Face3d::paintPolygon(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
+                          bool wireFrame) {
     const CanvasStateGuard guard(pic);
     pic.setFillColor(color);
     if (wireFrame) {
@@ -300,10 +312,7 @@ void Face3d::paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t 
     pic.polygon(points);
 }
 
-namespace {
-
-// Whether every corner lies off the canvas: then the face paints nothing.
-bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic) {
+bool Face3d::allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic) {
     const int width = pic.scaleWidth();
     const int height = pic.scaleHeight();
     return std::all_of(points.begin(), points.end(), [&](const CanvasPoint& p) {
@@ -311,25 +320,23 @@ bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic) {
     });
 }
 
-ShadedSurface surfaceOf(const Face3d& face) {
+ShadedSurface Face3d::shadedSurface() const {
     ShadedSurface s;
-    face.UnitNormalVector(s.nx, s.ny, s.nz);
-    const Point4& p = face.getSolidContainer()->getPointRecord(face.getIndices().front()).coord;
+    UnitNormalVector(s.nx, s.ny, s.nz);
+    const Point4& p = solid_->getPointRecord(indices_.front()).coord;
     s.px = p.x;
     s.py = p.y;
     s.pz = p.z;
-    s.DiffuseKr = face.DiffuseKr;
-    s.DiffuseKg = face.DiffuseKg;
-    s.DiffuseKb = face.DiffuseKb;
-    s.AmbientKr = face.AmbientKr;
-    s.AmbientKg = face.AmbientKg;
-    s.AmbientKb = face.AmbientKb;
-    s.SpecularK = face.SpecularK;
-    s.SpecularN = face.SpecularN;
+    s.DiffuseKr = DiffuseKr;
+    s.DiffuseKg = DiffuseKg;
+    s.DiffuseKb = DiffuseKb;
+    s.AmbientKr = AmbientKr;
+    s.AmbientKg = AmbientKg;
+    s.AmbientKb = AmbientKb;
+    s.SpecularK = SpecularK;
+    s.SpecularN = SpecularN;
     return s;
 }
-
-} // namespace
 
 void Face3d::DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16_t, float eye_x,
                               float eye_y, float eye_z, bool UseShift, bool wireFrame) {
@@ -342,9 +349,9 @@ void Face3d::DrawNoForceColor(Canvas& pic, const LightList& light_sources, int16
     if (allOffCanvas(points, pic)) {
         return;
     }
-    const int32_t color = Shading::shadeColor(surfaceOf(*this), light_sources,
+    const int32_t color = Shading::shadeColor(shadedSurface(), light_sources,
                                               EyePoint{eye_x, eye_y, eye_z}, UseShift);
-    paint(pic, points, color, wireFrame);
+    paintPolygon(pic, points, color, wireFrame);
 }
 
 void Face3d::DrawForceColor(Canvas& pic, const LightList& light_sources, int16_t ambient_light,
@@ -358,9 +365,9 @@ void Face3d::DrawForceColor(Canvas& pic, const LightList& light_sources, int16_t
         return;
     }
     const int32_t color =
-        Shading::shadeForcedColor(surfaceOf(*this), light_sources, ambient_light,
+        Shading::shadeForcedColor(shadedSurface(), light_sources, ambient_light,
                                   EyePoint{eye_x, eye_y, eye_z}, UseShift, FRed, FGreen, FBlue);
-    paint(pic, points, color, wireFrame);
+    paintPolygon(pic, points, color, wireFrame);
 }
 
 std::shared_ptr<GDIRegion> Face3d::createRegion(int fillmode) const {

@@ -2,6 +2,7 @@
 
 #include "geometry/Matrix4.h"
 #include "render/LightSource.h"
+#include "render/Shading.h"
 #include "scene/CornerIndices.h"
 
 #include <cstdint>
@@ -64,6 +65,10 @@ public:
     void TransformedNormalVector(float& x, float& y, float& z) const;
     void UnitNormalVector(float& x, float& y, float& z) const;
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
+    // Lowers smallest and raises largest to the squares of the corners' distances from the
+    // light, culled or not, as getRMinRMax measures them before taking their roots.
+    void squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
+                               double& largest) const;
     float zmax() const;
 
     // Transformations through the solid's cache: a point shared by several faces is
@@ -78,6 +83,9 @@ public:
     // Visibility: back faces and faces edge-on to the eye are culled; so are faces with a
     // corner at or behind the eye.
     void cull(float eye_x, float eye_y, float eye_z);
+    // What cull decides, without deciding it; facesAway takes the face's NormalVector.
+    bool facesAwayFrom(float eye_x, float eye_y, float eye_z) const;
+    bool facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const;
     void clipEye(float eyeR);
 
     // Depth relations for the painter's sort, all on the transformed points.
@@ -92,6 +100,14 @@ public:
                         float eye_x, float eye_y, float eye_z, bool UseShift, int FRed, int FGreen,
                         int FBlue, bool wireFrame);
 
+    // What shading reads of the face: its unit normal, its first corner and its coefficients.
+    ShadedSurface shadedSurface() const;
+    // Whether every corner lies off the canvas: then the face paints nothing.
+    static bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic);
+    // Fills points with the face colour (outlines only, in that colour, for a wireframe),
+    // leaving the canvas's styles and colours as they were.
+    static void paintPolygon(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
+                             bool wireFrame);
     // A hit region from the rounded transformed corners, culled or not.
     std::shared_ptr<GDIRegion> createRegion(int fillmode) const;
 
@@ -104,8 +120,6 @@ private:
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
     // The corners' transformed x and y, rounded to whole pixels.
     std::vector<CanvasPoint> canvasPoints() const;
-    void paint(Canvas& pic, const std::vector<CanvasPoint>& points, int32_t color,
-               bool wireFrame) const;
 
     CornerIndices indices_;
     Solid3d* solid_ = nullptr;

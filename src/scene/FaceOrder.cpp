@@ -1,5 +1,6 @@
 #include "scene/FaceOrder.h"
 
+#include "geometry/M3Ops.h"
 #include "scene/FaceRelations.h"
 
 #include <algorithm>
@@ -35,12 +36,28 @@ FaceOrder::Sorter FaceOrder::sorterInUse = &FaceOrder::sort;
 FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
     Faces result;
     result.reserve(faces.size());
-    for (auto it = faces.rbegin(); it != faces.rend(); ++it) {
-        if ((*it)->IsCulled) {
-            result.push_back(*it);
+    for (const uint32_t place : placesInOrder(faces, nullptr)) {
+        result.push_back(faces[place]);
+    }
+    return result;
+}
+
+std::vector<uint32_t> FaceOrder::order(const Faces& faces, const SolidProjection& seen) {
+    return placesInOrder(faces, &seen);
+}
+
+std::vector<uint32_t> FaceOrder::placesInOrder(const Faces& faces, const SolidProjection* seen) {
+    const auto culled = [&](size_t place) {
+        return seen != nullptr ? seen->culled[place] != 0 : faces[place]->IsCulled;
+    };
+    std::vector<uint32_t> result;
+    result.reserve(faces.size());
+    for (size_t place = faces.size(); place-- > 0;) {
+        if (culled(place)) {
+            result.push_back(static_cast<uint32_t>(place));
         }
     }
-    FaceOrder order(faces);
+    FaceOrder order(faces, seen);
     size_t limit = order.items_.size();
     size_t moves = 0;
     while (order.head_ != none) {
@@ -54,7 +71,7 @@ FaceOrder::Faces FaceOrder::sort(const Faces& faces) {
             continue;
         }
         // After limit moves without progress a cycle is broken by painting P anyway.
-        result.push_back(faces[order.listed_[p]]);
+        result.push_back(order.listed_[p]);
         order.unlink(p);
         order.marks_[p] = emitted;
         --order.waitingCount_;
@@ -80,22 +97,26 @@ bool FaceOrder::mustPaintBefore(const Item& q, const Item& p) const {
            FaceRelations::obscures(pc, qc);
 }
 
-FaceOrder::FaceOrder(const Faces& faces) {
+FaceOrder::FaceOrder(const Faces& faces, const SolidProjection* seen) {
     for (uint32_t listed = 0; listed < faces.size(); ++listed) {
-        const auto& face = faces[listed];
-        if (face->IsCulled) {
+        const Face3d& face = *faces[listed];
+        if (seen != nullptr ? seen->culled[listed] != 0 : face.IsCulled) {
             continue;
         }
         const auto index = static_cast<uint32_t>(items_.size());
         Item item{0, 0, 0, 0, 0, 0, index - 1, index + 1};
-        face->GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
-        face->TransformedNormalVector(item.nx, item.ny, item.nz);
         item.firstCorner = static_cast<uint32_t>(corners_.size());
-        item.cornerCount = face->getSolidContainer() != nullptr ? std::max(face->NumPts, 0) : 0;
-        for (int corner = 1; corner <= item.cornerCount; ++corner) {
-            Corner c{};
-            face->GetTransformedPoint(corner, c.x, c.y, c.z);
-            corners_.push_back(c);
+        item.cornerCount = face.getSolidContainer() != nullptr ? std::max(face.NumPts, 0) : 0;
+        if (seen != nullptr) {
+            addSeenCorners(face, *seen, item);
+        } else {
+            face.GetExtent(item.xmin, item.xmax, item.ymin, item.ymax, item.zmin, item.zmax);
+            face.TransformedNormalVector(item.nx, item.ny, item.nz);
+            for (int corner = 1; corner <= item.cornerCount; ++corner) {
+                Corner c{};
+                face.GetTransformedPoint(corner, c.x, c.y, c.z);
+                corners_.push_back(c);
+            }
         }
         items_.push_back(item);
         listed_.push_back(listed);
@@ -173,6 +194,32 @@ void FaceOrder::buildGrid() {
     for (size_t cell = 0; cell <= cellCount; ++cell) {
         const auto first = entries_.begin() + cellStart_[cell];
         std::sort(first, first + cellSize_[cell], byDepth);
+    }
+}
+
+// The corners, box and normal as Face3d computes them from its transformed points.
+void FaceOrder::addSeenCorners(const Face3d& face, const SolidProjection& seen, Item& item) {
+    const auto& indices = face.getIndices();
+    for (int corner = 0; corner < item.cornerCount; ++corner) {
+        const Point4& t = seen.points[static_cast<size_t>(indices[static_cast<size_t>(corner)])];
+        corners_.push_back(Corner{t.x, t.y, t.z});
+        if (corner == 0) {
+            item.xmin = item.xmax = t.x;
+            item.ymin = item.ymax = t.y;
+            item.zmin = item.zmax = t.z;
+            continue;
+        }
+        item.xmin = std::min(item.xmin, t.x);
+        item.xmax = std::max(item.xmax, t.x);
+        item.ymin = std::min(item.ymin, t.y);
+        item.ymax = std::max(item.ymax, t.y);
+        item.zmin = std::min(item.zmin, t.z);
+        item.zmax = std::max(item.zmax, t.z);
+    }
+    if (item.cornerCount >= 3) {
+        const Corner* c = corners_.data() + item.firstCorner;
+        M3Ops::crossProduct(item.nx, item.ny, item.nz, c[1].x - c[0].x, c[1].y - c[0].y,
+                            c[1].z - c[0].z, c[2].x - c[1].x, c[2].y - c[1].y, c[2].z - c[1].z);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scene/Face3d.h"
+#include "scene/SolidProjection.h"
 
 #include <cstdint>
 #include <memory>
@@ -20,6 +21,8 @@ class FaceOrder {
 public:
     using Faces = std::vector<std::shared_ptr<Face3d>>;
     static Faces sort(const Faces& faces);
+    // The same order for the faces as one viewport sees them, as places in the list.
+    static std::vector<uint32_t> order(const Faces& faces, const SolidProjection& seen);
 
     // The order Solid3d::SortFaces gives: this one. The benchmarks put the plain scan here
     // to time whole redraws with it; the program never changes it.
@@ -56,8 +59,11 @@ private:
         uint32_t item;
     };
 
-    explicit FaceOrder(const Faces& faces);
+    // Reads each face's culling and transformed corners from seen, or from the face itself.
+    FaceOrder(const Faces& faces, const SolidProjection* seen);
+    static std::vector<uint32_t> placesInOrder(const Faces& faces, const SolidProjection* seen);
     Corners cornersOf(const Item& item) const;
+    void addSeenCorners(const Face3d& face, const SolidProjection& seen, Item& item);
     // Q has to be painted before P: their canvas boxes overlap, Q reaches behind P's nearest
     // depth, and the plane and edge tests agree that P lies in front of Q.
     bool mustPaintBefore(const Item& q, const Item& p) const;

@@ -209,6 +209,25 @@ void Solid3d::SetZMax() {
     }
 }
 
+void Solid3d::storeProjection(const SolidProjection& seen, bool wholly) {
+    for (size_t i = 1; i < seen.reached.size(); ++i) {
+        if (seen.reached[i] != 0) {
+            pointForTransform(static_cast<int32_t>(i)).trans = seen.points[i];
+        }
+    }
+    if (!wholly) {
+        return;
+    }
+    for (size_t f = 0; f < faces.size(); ++f) {
+        faces[f]->IsCulled = seen.culled[f] != 0;
+    }
+    std::fill(transformed_.begin(), transformed_.end(), 0);
+    for (size_t i = 1; i < seen.reached.size() && i < transformed_.size(); ++i) {
+        transformed_[i] = seen.reached[i];
+    }
+    zmax = seen.zmax;
+}
+
 void Solid3d::GetTransformedPoint(float& x, float& y, float& z) const {
     x = y = z = 0;
     for (const auto& face : faces) {

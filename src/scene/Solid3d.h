@@ -4,6 +4,7 @@
 #include "geometry/PointRecord.h"
 #include "render/LightSource.h"
 #include "scene/Face3d.h"
+#include "scene/SolidProjection.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,7 +17,8 @@ class GDIRegion;
 
 using FaceList = std::vector<std::shared_ptr<Face3d>>;
 
-// A polygon mesh: shared point records and the faces that index into them (1-based).
+// A polygon mesh: shared point records and the faces that index into them (1-based). Every
+// face in a solid's list has that solid as its container and indexes only its records.
 // It owns the transformed-point cache through which its faces transform each shared
 // point once per redraw, forwards the pipeline's per-face operations to every face in
 // list order, and orders its faces for painting.
@@ -103,6 +105,10 @@ public:
     // that nothing is transformed until the next reset.
     void Culled(bool flag);
     void SetZMax();
+    // Leaves what projecting the solid for one viewport leaves: the projected points it
+    // reached; and with wholly, also its faces' culling, its transformed-point flags and its
+    // largest depth, as after that viewport alone.
+    void storeProjection(const SolidProjection& seen, bool wholly);
     // The transformed corner 1 of the first face that is not culled.
     void GetTransformedPoint(float& x, float& y, float& z) const;
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;

@@ -184,11 +184,15 @@ void Transformed3d::deselectFaces() {
 }
 
 void Transformed3d::ApplyFull(const Matrix4& M) {
-    for (PointRecord& point : curve_) {
-        M3Ops::transformPoint(point.coord, M, point.trans);
-    }
+    projectCurve(M);
     if (solid_) {
         solid_->ApplyFull(M, false);
+    }
+}
+
+void Transformed3d::projectCurve(const Matrix4& M) {
+    for (PointRecord& point : curve_) {
+        M3Ops::transformPoint(point.coord, M, point.trans);
     }
 }
 

@@ -61,6 +61,8 @@ public:
 
     // Projection of the curve and the solid for display (full) and for modelling (affine).
     void ApplyFull(const Matrix4& M);
+    // The curve's part of ApplyFull.
+    void projectCurve(const Matrix4& M);
     void Apply(const Matrix4& M);
 
 private:

@@ -1,6 +1,6 @@
-#include "qt/ScanlineFiller.h"
+#include "render/ScanlineFiller.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 namespace {
@@ -16,12 +16,11 @@ int64_t floorDiv(int64_t a, int64_t b) { // b > 0
 
 } // namespace
 
-void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points, QRgb color) {
-    const int width = image.width();
-    const int height = image.height();
+void ScanlineFiller::prepare(int height, const std::vector<CanvasPoint>& points, int& top,
+                             int& bottom) {
     edges_.clear();
-    int top = height;
-    int bottom = 0;
+    top = height;
+    bottom = 0;
     for (size_t i = 0; i < points.size(); ++i) {
         const CanvasPoint& a = points[i];
         const CanvasPoint& b = points[i + 1 < points.size() ? i + 1 : 0];
@@ -53,47 +52,20 @@ void ScanlineFiller::fill(QImage& image, const std::vector<CanvasPoint>& points,
         top = std::min(top, first);
         bottom = std::max(bottom, last);
     }
-    const QRgb quad[4] = {color, color, color, color};
-    uchar* bits = image.bits();
-    const qsizetype stride = image.bytesPerLine();
-    starts_.resize(edges_.size());
-    int32_t* starts = starts_.data();
-    for (int y = top; y < bottom; ++y) {
-        size_t count = 0;
-        for (Edge& edge : edges_) {
-            if (y < edge.top || y >= edge.bottom) {
-                continue;
-            }
-            // Insertion sort: a row of a face crosses few edges.
-            size_t k = count++;
-            for (; k > 0 && starts[k - 1] > edge.start; --k) {
-                starts[k] = starts[k - 1];
-            }
-            starts[k] = edge.start;
-            edge.start += edge.startStep;
-            edge.remainder += edge.remainderStep;
-            // Without a branch: the carry comes as often as not.
-            const int32_t carry = edge.remainder >= edge.divisor ? 1 : 0;
-            edge.start += carry;
-            edge.remainder -= carry * edge.divisor;
+}
+
+void ScanlineFiller::fill(uint32_t* pixels, int stride, int width, int height,
+                          const std::vector<CanvasPoint>& points, uint32_t color) {
+    const uint32_t quad[4] = {color, color, color, color};
+    forEachSpan(width, height, points, [&](int y, int32_t left, int32_t right) {
+        // Four pixels to a store where the span allows.
+        uint32_t* pixel = pixels + static_cast<std::ptrdiff_t>(y) * stride + left;
+        uint32_t* const end = pixels + static_cast<std::ptrdiff_t>(y) * stride + right;
+        for (; end - pixel >= 4; pixel += 4) {
+            std::memcpy(pixel, quad, sizeof quad);
         }
-        auto* row = reinterpret_cast<QRgb*>(bits + y * stride);
-        // Even-odd: the pixels from one start up to the next are inside, then outside.
-        for (size_t k = 0; k + 1 < count; k += 2) {
-            const int32_t left = std::max(starts[k], 0);
-            const int32_t right = std::min(starts[k + 1], width);
-            if (left >= right) {
-                continue;
-            }
-            // Four pixels to a store where the span allows.
-            QRgb* pixel = row + left;
-            QRgb* const end = row + right;
-            for (; end - pixel >= 4; pixel += 4) {
-                std::memcpy(pixel, quad, sizeof quad);
-            }
-            for (; pixel < end; ++pixel) {
-                *pixel = color;
-            }
+        for (; pixel < end; ++pixel) {
+            *pixel = color;
         }
-    }
+    });
 }

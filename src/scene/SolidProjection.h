@@ -1,0 +1,16 @@
+#pragma once
+
+#include "geometry/Point4.h"
+
+#include <cstdint>
+#include <vector>
+
+// One solid as one viewport sees it, kept apart from the solid so that several viewports can
+// be projected at once: each face's culling (list order) and each point record's projection,
+// for the records some face that was not culled reached (index 0 unused, as in the solid).
+struct SolidProjection {
+    std::vector<uint8_t> culled;
+    std::vector<Point4> points;
+    std::vector<uint8_t> reached;
+    float zmax = 0;
+};
