@@ -60,19 +60,21 @@ inline SceneDocument twentyPrisms() {
 }
 
 // One 64-corner star extruded 2 units up in 100 subdivisions, each step moving up and
-// turning about the y axis: 400 rings, about 51,000 triangles.
-inline SceneDocument twistedExtrusion() {
+// turning about the y axis: 400 rings, about 51,000 triangles (512 per subdivision). Other
+// counts of subdivisions split the same height and turn more or less finely.
+inline SceneDocument twistedExtrusion(int subdivisions = 100) {
     SceneDocument document = SceneDocument::startUp();
     Matrix4 up, rx, ry, rz;
-    M3Ops::setTranslation(up, 0, 0.02f, 0);
+    const float step = 1.0f / static_cast<float>(subdivisions);
+    M3Ops::setTranslation(up, 0, 2 * step, 0);
     M3Ops::setRotationX(rx, 0);
-    M3Ops::setRotationY(ry, 0.01f);
+    M3Ops::setRotationY(ry, step);
     M3Ops::setRotationZ(rz, 0);
     auto star = polygon(64, 1.0f);
     for (size_t k = 1; k < star.size(); k += 2) {
         star[k] = {star[k][0] * 0.6f, star[k][1] * 0.6f};
     }
-    document.solids.push_back(sweep(star, 0, 0, {up, rx, ry, rz}, 100));
+    document.solids.push_back(sweep(star, 0, 0, {up, rx, ry, rz}, subdivisions));
     return document;
 }
 

@@ -114,11 +114,17 @@ std::vector<std::shared_ptr<Solid3d>> toruses(const benchmark::State& state) {
 }
 
 // The one solid of the twisted 64-corner star extrusion (about 51,000 triangles) seen from
-// standard view 1 (top) to 4 (isometric).
-std::shared_ptr<Solid3d> twisted(const benchmark::State& state) {
-    auto solid = BenchScenes::twistedExtrusion().solids.front()->getSolid();
-    project(*solid, static_cast<int>(state.range(0)));
+// standard view 1 (top) to 4 (isometric); a subdivision adds 512 faces.
+std::shared_ptr<Solid3d> twisted(int64_t view, int64_t subdivisions = 100) {
+    auto solid =
+        BenchScenes::twistedExtrusion(static_cast<int>(subdivisions)).solids.front()->getSolid();
+    project(*solid, static_cast<int>(view));
     return solid;
+}
+
+// The same star in as many subdivisions as give range(1) faces, seen from view range(0).
+std::shared_ptr<Solid3d> twistedWithFaces(const benchmark::State& state) {
+    return twisted(state.range(0), state.range(1) / 512);
 }
 
 } // namespace
@@ -130,10 +136,16 @@ static void BM_SortFaces_Fast(benchmark::State& state) {
     run(state, toruses(state), fast);
 }
 static void BM_SortFacesTwisted_Literal(benchmark::State& state) {
-    run(state, {twisted(state)}, literal);
+    run(state, {twisted(state.range(0))}, literal);
 }
 static void BM_SortFacesTwisted_Fast(benchmark::State& state) {
-    run(state, {twisted(state)}, fast);
+    run(state, {twisted(state.range(0))}, fast);
+}
+static void BM_SortFacesTwistedGrowth_Literal(benchmark::State& state) {
+    run(state, {twistedWithFaces(state)}, literal);
+}
+static void BM_SortFacesTwistedGrowth_Fast(benchmark::State& state) {
+    run(state, {twistedWithFaces(state)}, fast);
 }
 static void BM_SortFacesOverlap_Literal(benchmark::State& state) {
     run(state, {overlappingCubes(static_cast<int>(state.range(0)))}, literal);
@@ -155,5 +167,13 @@ BENCHMARK(BM_SortFaces_Fast)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SortFacesTwisted_Literal)->DenseRange(1, 4)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SortFacesTwisted_Fast)->DenseRange(1, 4)->Unit(benchmark::kMillisecond);
+// How the time grows with the faces of thinner and thinner rings, view by view.
+const auto twistedGrowth = [](benchmark::internal::Benchmark* b) {
+    b->ArgNames({"view", "faces"})
+        ->ArgsProduct({{1, 2, 3, 4}, {16386, 32770, 65538}})
+        ->Unit(benchmark::kMillisecond);
+};
+BENCHMARK(BM_SortFacesTwistedGrowth_Literal)->Apply(twistedGrowth);
+BENCHMARK(BM_SortFacesTwistedGrowth_Fast)->Apply(twistedGrowth);
 BENCHMARK(BM_SortFacesOverlap_Literal)->Arg(3000)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SortFacesOverlap_Fast)->Arg(3000)->Arg(10000)->Unit(benchmark::kMillisecond);

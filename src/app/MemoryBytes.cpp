@@ -19,11 +19,11 @@ template <class T> constexpr size_t shared = sizeof(T) + 16 + sizeof(std::shared
 namespace MemoryBytes {
 
 size_t of(const Solid3d& solid) {
-    // Each point has its record and its transformed flag; index 0 is unused.
-    size_t bytes = shared<Solid3d> + (static_cast<size_t>(solid.getPointUpperBound()) + 1) *
-                                         (sizeof(PointRecord) + sizeof(uint8_t));
+    // Index 0 is unused.
+    size_t bytes = shared<Solid3d> +
+                   (static_cast<size_t>(solid.getPointUpperBound()) + 1) * solid.bytesPerPoint();
     for (const auto& face : solid.faces) {
-        bytes += shared<Face3d> + face->getIndices().capacity() * sizeof(int32_t);
+        bytes += shared<Face3d> + face->getIndices().heapBytes();
     }
     return bytes;
 }

@@ -67,7 +67,7 @@ std::vector<uint8_t> PlyWriter::encode(const ObjectList& objects) {
     uint32_t firstPoint = 0; // the file's number of the object's point 1
     for (size_t n = 0; n < objects.size(); ++n) {
         for (const auto& face : objects[n]->getFaces()) {
-            const std::vector<int32_t>& corners = face->getIndices();
+            const CornerIndices& corners = face->getIndices();
             if (wide) {
                 out.uint32(static_cast<uint32_t>(corners.size()));
             } else {

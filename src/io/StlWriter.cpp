@@ -36,7 +36,7 @@ template <class Each> void forEachTriangle(const ObjectList& objects, Each each)
     for (const auto& object : objects) {
         const int32_t points = MeshPoints::count(*object);
         for (const auto& face : object->getFaces()) {
-            const std::vector<int32_t>& corners = face->getIndices();
+            const CornerIndices& corners = face->getIndices();
             for (size_t k = 1; k + 1 < corners.size(); ++k) {
                 const int32_t i[3] = {corners[0], corners[k], corners[k + 1]};
                 if (std::min({i[0], i[1], i[2]}) < 1 || std::max({i[0], i[1], i[2]}) > points) {

@@ -187,7 +187,7 @@ std::optional<std::vector<uint8_t>> encode(const ObjectList& objects) {
         out.writeInt32(countOf(faces.size()));
         for (const auto& face : faces) {
             out.writeInt32(face->getOrderNum());
-            const std::vector<int32_t>& indices = face->getIndices();
+            const CornerIndices& indices = face->getIndices();
             out.writeInt32(countOf(indices.size()));
             for (const int32_t index : indices) {
                 out.writeInt32(index);

@@ -76,7 +76,7 @@ Triangles trianglesOf(const Transformed3d& object) {
         const NMR::MODELMESHCOLOR_SRGB color{colorChannel(face->DiffuseKr),
                                              colorChannel(face->DiffuseKg),
                                              colorChannel(face->DiffuseKb), 255};
-        const std::vector<int32_t>& indices = face->getIndices();
+        const CornerIndices& indices = face->getIndices();
         for (size_t k = 1; k + 1 < indices.size(); ++k) {
             // Points are numbered from 1 in the solid, from 0 in the package.
             const DWORD a = static_cast<DWORD>(indices[0]) - 1;

@@ -44,7 +44,7 @@ void Face3d::addIndex(int32_t index) {
 }
 
 void Face3d::SetPoints(const std::vector<int32_t>& indices) {
-    indices_ = indices;
+    indices_ = CornerIndices(indices);
     NumPts = static_cast<int32_t>(indices_.size());
 }
 
@@ -65,8 +65,12 @@ void Face3d::switchIndexOrientation() {
     std::reverse(indices_.begin(), indices_.end());
 }
 
-const PointRecord& Face3d::record(int corner) const {
-    return solid_->getPointRecord(indices_[static_cast<size_t>(corner - 1)]);
+const Point4& Face3d::coordOf(int corner) const {
+    return solid_->getPointRecord(indices_[static_cast<size_t>(corner - 1)]).coord;
+}
+
+const Point4& Face3d::transOf(int corner) const {
+    return solid_->getPointRecord(indices_[static_cast<size_t>(corner - 1)]).trans;
 }
 
 void Face3d::GetTransformedPoint(int corner, float& x, float& y, float& z) const {
@@ -74,7 +78,7 @@ void Face3d::GetTransformedPoint(int corner, float& x, float& y, float& z) const
         x = y = z = 0;
         return;
     }
-    const Point4& t = record(corner).trans;
+    const Point4& t = transOf(corner);
     x = t.x;
     y = t.y;
     z = t.z;
@@ -84,7 +88,7 @@ void Face3d::GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float
                        float& zmax) const {
     Xmin = xmax = ymin = ymax = Zmin = zmax = 0;
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& t = record(corner).trans;
+        const Point4& t = transOf(corner);
         if (corner == 1) {
             Xmin = xmax = t.x;
             ymin = ymax = t.y;
@@ -103,14 +107,14 @@ void Face3d::GetExtent(float& Xmin, float& xmax, float& ymin, float& ymax, float
 void Face3d::NormalVector(float& x, float& y, float& z) const {
     x = y = z = 0;
     if (cornerCount() >= 3) {
-        normalOf(record(1).coord, record(2).coord, record(3).coord, x, y, z);
+        normalOf(coordOf(1), coordOf(2), coordOf(3), x, y, z);
     }
 }
 
 void Face3d::TransformedNormalVector(float& x, float& y, float& z) const {
     x = y = z = 0;
     if (cornerCount() >= 3) {
-        normalOf(record(1).trans, record(2).trans, record(3).trans, x, y, z);
+        normalOf(transOf(1), transOf(2), transOf(3), x, y, z);
     }
 }
 
@@ -143,7 +147,7 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
 void Face3d::squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
                                    double& largest) const {
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& c = record(corner).coord;
+        const Point4& c = coordOf(corner);
         const double dx = c.x - light_x;
         const double dy = c.y - light_y;
         const double dz = c.z - light_z;
@@ -159,7 +163,7 @@ float Face3d::zmax() const {
     }
     float result = -1e30f;
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        result = std::max(result, record(corner).trans.z);
+        result = std::max(result, transOf(corner).z);
     }
     return result;
 }
@@ -171,8 +175,7 @@ template <class Step> void Face3d::transformCorners(Step step) {
     Solid3d& solid = *solid_;
     for (const int32_t index : indices_) {
         if (!solid.hasTransformedPoint(index)) {
-            PointRecord& r = solid.pointRecordForTransform(index);
-            step(r);
+            step(solid, index);
             solid.activateTransformedPoint(index);
         }
     }
@@ -180,30 +183,51 @@ template <class Step> void Face3d::transformCorners(Step step) {
 
 void Face3d::ApplyFull(const Matrix4& M, bool toCoord2) {
     if (toCoord2) {
-        transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.coord2); });
+        transformCorners([&M](Solid3d& solid, int32_t index) {
+            M3Ops::transformPoint(solid.pointForTransform(index).coord, M,
+                                  solid.coord2ForTransform(index));
+        });
     } else {
-        transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.trans); });
+        transformCorners([&M](Solid3d& solid, int32_t index) {
+            auto& r = solid.pointForTransform(index);
+            M3Ops::transformPoint(r.coord, M, r.trans);
+        });
     }
 }
 
 void Face3d::ApplyFullTrans(const Matrix4& M) {
-    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.trans, M, r.trans); });
+    transformCorners([&M](Solid3d& solid, int32_t index) {
+        auto& r = solid.pointForTransform(index);
+        M3Ops::transformPoint(r.trans, M, r.trans);
+    });
 }
 
 void Face3d::ApplyFullCoord2(const Matrix4& M) {
-    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord2, M, r.trans); });
+    transformCorners([&M](Solid3d& solid, int32_t index) {
+        M3Ops::transformPoint(solid.getPointRecord(index).coord2, M,
+                              solid.pointForTransform(index).trans);
+    });
 }
 
 void Face3d::ApplyFullCoord(const Matrix4& M) {
-    transformCorners([&M](PointRecord& r) { M3Ops::transformPoint(r.coord, M, r.coord); });
+    transformCorners([&M](Solid3d& solid, int32_t index) {
+        auto& r = solid.pointForTransform(index);
+        M3Ops::transformPoint(r.coord, M, r.coord);
+    });
 }
 
 void Face3d::Apply(const Matrix4& M) {
-    transformCorners([&M](PointRecord& r) { M3Ops::transformPointAffine(r.coord, M, r.trans); });
+    transformCorners([&M](Solid3d& solid, int32_t index) {
+        auto& r = solid.pointForTransform(index);
+        M3Ops::transformPointAffine(r.coord, M, r.trans);
+    });
 }
 
 void Face3d::ApplyCoord(const Matrix4& M) {
-    transformCorners([&M](PointRecord& r) { M3Ops::transformPointAffine(r.coord, M, r.coord); });
+    transformCorners([&M](Solid3d& solid, int32_t index) {
+        auto& r = solid.pointForTransform(index);
+        M3Ops::transformPointAffine(r.coord, M, r.coord);
+    });
 }
 
 void Face3d::cull(float eye_x, float eye_y, float eye_z) {
@@ -222,7 +246,7 @@ bool Face3d::facesAway(float nx, float ny, float nz, float eye_x, float eye_y, f
     if (cornerCount() < 1) {
         return true;
     }
-    const Point4& p = record(1).coord;
+    const Point4& p = coordOf(1);
     const auto d = static_cast<float>(static_cast<double>(nx) * (p.x - eye_x) +
                                       static_cast<double>(ny) * (p.y - eye_y) +
                                       static_cast<double>(nz) * (p.z - eye_z));
@@ -235,7 +259,7 @@ void Face3d::clipEye(float eyeR) {
         return;
     }
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        if (record(corner).trans.z >= eyeR) {
+        if (transOf(corner).z >= eyeR) {
             IsCulled = true;
             return;
         }
@@ -270,7 +294,7 @@ bool Face3d::PointInside(float x, float y) const {
 std::vector<CanvasPoint> Face3d::canvasPoints() const {
     std::vector<CanvasPoint> points(static_cast<size_t>(cornerCount()));
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& t = record(corner).trans;
+        const Point4& t = transOf(corner);
         points[static_cast<size_t>(corner - 1)] = {Rounding::toInt32(t.x), Rounding::toInt32(t.y)};
     }
     return points;

@@ -3,6 +3,7 @@
 #include "geometry/Matrix4.h"
 #include "render/LightSource.h"
 #include "render/Shading.h"
+#include "scene/CornerIndices.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,7 +13,7 @@
 
 class GDIRegion;
 class Solid3d;
-struct PointRecord;
+struct Point4;
 
 // One planar polygon of a solid. It holds no coordinates: it lists 1-based indices into
 // its solid's point records in the order its corners are visited, and carries the
@@ -45,7 +46,7 @@ public:
     bool deletePointIndex(int32_t index);
     // Reverses the corner order, which flips the normal.
     void switchIndexOrientation();
-    const std::vector<int32_t>& getIndices() const { return indices_; }
+    const CornerIndices& getIndices() const { return indices_; }
     // The solid whose points the indices refer to. The face does not own it; the solid
     // clears it when it is destroyed.
     void setSolidContainer(Solid3d* solid) { solid_ = solid; }
@@ -113,13 +114,14 @@ public:
 private:
     // NumPts while the face has a solid to read its points from, else 0.
     int32_t cornerCount() const { return solid_ != nullptr ? NumPts : 0; }
-    const PointRecord& record(int corner) const;
+    const Point4& coordOf(int corner) const;
+    const Point4& transOf(int corner) const;
     template <class Step> void transformCorners(Step step);
     bool isOnSideOf(const Face3d& other, bool towardsViewer) const;
     // The corners' transformed x and y, rounded to whole pixels.
     std::vector<CanvasPoint> canvasPoints() const;
 
-    std::vector<int32_t> indices_;
+    CornerIndices indices_;
     Solid3d* solid_ = nullptr;
     bool selected_ = false;
     int32_t orderNumber_ = 0;

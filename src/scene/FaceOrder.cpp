@@ -131,6 +131,7 @@ FaceOrder::FaceOrder(const Faces& faces, const SolidProjection* seen) {
         items_.front().prev = none;
         items_.back().next = none;
     }
+    passed_.resize(items_.size());
     buildGrid();
 }
 
@@ -274,13 +275,22 @@ uint32_t FaceOrder::scanGrid(uint32_t p, int x0, int x1, int y0, int y1) {
             collect(static_cast<uint32_t>(y * nx_ + x), mine);
         }
     }
-    // Taken by their place in the waiting list, nearest the front first.
+    // Taken by their place in the waiting list, nearest the front first, from the first
+    // this face has not passed before.
     uint32_t* const first = candidates_.data();
-    uint32_t* const end = first + candidateCount_;
+    uint32_t* end = first + candidateCount_;
+    Passed& passed = passed_[p];
+    if (passed.ownKey == keys_[p]) {
+        end = std::remove_if(first, end, [&](uint32_t q) { return keys_[q] < passed.below; });
+    }
     std::sort(first, end, [this](uint32_t a, uint32_t b) { return keys_[a] < keys_[b]; });
     const auto found =
         std::find_if(first, end, [&](uint32_t q) { return mustPaintBefore(items_[q], mine); });
-    return found != end ? *found : none;
+    if (found == end) {
+        return none;
+    }
+    passed = Passed{keys_[p], keys_[*found]};
+    return *found;
 }
 
 // Without branches on what the entries hold, which no predictor could learn: every entry is

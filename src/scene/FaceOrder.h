@@ -110,6 +110,15 @@ private:
     uint32_t wideCell_ = 0;
     std::vector<uint32_t> candidates_;
     size_t candidateCount_ = 0;
+    // What a face's last search through the grid learnt: the faces it passed before the one
+    // it found (keys below that one's) need no testing again while the face keeps its place,
+    // since the test depends on the two faces alone. A face that moves to the front gets
+    // faces behind it that were ahead of it, so its key must still be ownKey.
+    struct Passed {
+        int64_t ownKey = INT64_MAX;
+        int64_t below = 0;
+    };
+    std::vector<Passed> passed_;
     // The current run of moves: faces it moved, and a snapshot of their order.
     uint32_t run_ = 1;
     size_t runFaces_ = 0;

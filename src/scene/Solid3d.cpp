@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 Solid3d::Solid3d() = default;
 
@@ -48,14 +49,28 @@ void Solid3d::appendPointRecord(const PointRecord& record) {
     if (static_cast<size_t>(nextPointIndex_) >= points_.size()) {
         points_.resize(static_cast<size_t>(nextPointIndex_) + 1);
         transformed_.resize(points_.size(), 0);
+        if (!coord2_.empty()) {
+            makeCoord2Storage();
+        }
     }
-    points_[static_cast<size_t>(nextPointIndex_)] = record;
+    storePointRecord(nextPointIndex_, record);
     ++nextPointIndex_;
 }
 
 void Solid3d::setPointRecord(int32_t index, const PointRecord& record) {
     makeStorage();
-    points_[static_cast<size_t>(index)] = record;
+    storePointRecord(index, record);
+}
+
+void Solid3d::storePointRecord(int32_t index, const PointRecord& record) {
+    const auto i = static_cast<size_t>(index);
+    points_[i] = StoredPoint{record.coord, record.trans};
+    // Bit for bit, so that a -0 is kept as it was written.
+    if (coord2_.empty() && std::memcmp(&record.coord2, &origin_.coord2, sizeof(Point4)) == 0) {
+        return;
+    }
+    makeCoord2Storage();
+    coord2_[i] = record.coord2;
 }
 
 std::shared_ptr<Face3d> Solid3d::AddFace(std::span<const int32_t> indices) {
@@ -197,7 +212,7 @@ void Solid3d::SetZMax() {
 void Solid3d::storeProjection(const SolidProjection& seen, bool wholly) {
     for (size_t i = 1; i < seen.reached.size(); ++i) {
         if (seen.reached[i] != 0) {
-            pointRecordForTransform(static_cast<int32_t>(i)).trans = seen.points[i];
+            pointForTransform(static_cast<int32_t>(i)).trans = seen.points[i];
         }
     }
     if (!wholly) {

@@ -49,11 +49,22 @@ public:
     int32_t GetFaceNum() const { return static_cast<int32_t>(faces.size()); }
     FaceList copyFaceList() const { return faces; }
 
+    // A point record read in place: its three parts refer to the solid's storage.
+    struct PointRecordRef {
+        const Point4& coord;
+        const Point4& coord2;
+        const Point4& trans;
+        operator PointRecord() const { return PointRecord{coord, coord2, trans}; }
+    };
     // The point records, 1 to getPointUpperBound(); the number of added points is
     // getNextPointIndex() - 1. A solid without points holds no storage for its one record at
     // the origin until something writes it: a file of many empty objects stays small.
-    const PointRecord& getPointRecord(int32_t index) const {
-        return points_.empty() ? origin_ : points_[static_cast<size_t>(index)];
+    PointRecordRef getPointRecord(int32_t index) const {
+        if (points_.empty()) {
+            return {origin_.coord, origin_.coord2, origin_.trans};
+        }
+        const auto i = static_cast<size_t>(index);
+        return {points_[i].coord, coord2_.empty() ? origin_.coord2 : coord2_[i], points_[i].trans};
     }
     void setPointRecord(int32_t index, const PointRecord& record);
     void appendPointRecord(const PointRecord& record);
@@ -61,6 +72,10 @@ public:
         return points_.empty() ? 1 : static_cast<int32_t>(points_.size()) - 1;
     }
     int32_t getNextPointIndex() const { return nextPointIndex_; }
+    // What one point's storage takes: coord, trans, coord2 once kept, and the flag below.
+    size_t bytesPerPoint() const {
+        return sizeof(StoredPoint) + (coord2_.empty() ? 0 : sizeof(Point4)) + sizeof(uint8_t);
+    }
 
     void SetDiffuseCoefficients(float kr, float kg, float kb);
     void SetAmbientCoefficients(float kr, float kg, float kb);
@@ -116,10 +131,23 @@ public:
 
 private:
     friend class Face3d;
-    PointRecord& pointRecordForTransform(int32_t index) {
+    // Where a face's transformation writes: the model point and the projected one, and
+    // coord2, which takes its storage for every point the first time it is written.
+    struct StoredPoint {
+        Point4 coord;
+        Point4 trans;
+    };
+    StoredPoint& pointForTransform(int32_t index) {
         makeStorage();
         return points_[static_cast<size_t>(index)];
     }
+    Point4& coord2ForTransform(int32_t index) {
+        makeStorage();
+        makeCoord2Storage();
+        return coord2_[static_cast<size_t>(index)];
+    }
+    void makeCoord2Storage() { coord2_.resize(points_.size()); }
+    void storePointRecord(int32_t index, const PointRecord& record);
     // Index 0 unused and the origin record at 1.
     void makeStorage() {
         if (points_.empty()) {
@@ -132,7 +160,8 @@ private:
     void forEachRegionFace(bool useSortedFaces, bool excludeCulledFaces, Each each) const;
 
     static inline const PointRecord origin_{};
-    std::vector<PointRecord> points_; // index 0 unused; empty until needed
+    std::vector<StoredPoint> points_; // index 0 unused; empty until needed
+    std::vector<Point4> coord2_;      // empty until a coord2 that is not zero is written
     int32_t nextPointIndex_ = 1;
     std::vector<uint8_t> transformed_; // index 0 unused
     bool visible_ = false;

@@ -59,7 +59,7 @@ TEST(ThreeMfWriter, EveryObjectWithTrianglesIsAMeshOfFannedFacesInItsFacesColour
     }
     faces.back()->DiffuseKr = 1;
     // A corner named twice makes a triangle without area, which the package may not hold.
-    auto repeated = faces.front()->getIndices();
+    std::vector<int32_t> repeated = faces.front()->getIndices();
     repeated.insert(repeated.begin() + 1, repeated[0]);
     faces.front()->SetPoints(repeated);
 

@@ -51,13 +51,17 @@ bool sameBytes(const void* a, const void* b, size_t size) {
     return std::memcmp(a, b, size) == 0;
 }
 
+bool sameRecord(const PointRecord& a, const PointRecord& b) {
+    return sameBytes(&a, &b, sizeof(PointRecord));
+}
+
 // What a redraw leaves in the document: projections, culling, depths, lights, flags.
 void expectSameState(const SceneDocument& ours, const SceneDocument& literal, int step) {
     for (size_t k = 0; k < ours.solids.size(); ++k) {
         const Solid3d& a = *ours.solids[k]->getSolid();
         const Solid3d& b = *literal.solids[k]->getSolid();
         for (int32_t i = 1; i <= a.getPointUpperBound(); ++i) {
-            EXPECT_TRUE(sameBytes(&a.getPointRecord(i), &b.getPointRecord(i), sizeof(PointRecord)))
+            EXPECT_TRUE(sameRecord(a.getPointRecord(i), b.getPointRecord(i)))
                 << "step " << step << ", solid " << k << ", point " << i;
             EXPECT_EQ(a.hasTransformedPoint(i), b.hasTransformedPoint(i))
                 << "step " << step << ", solid " << k << ", point " << i;
@@ -83,8 +87,7 @@ void expectSameState(const SceneDocument& ours, const SceneDocument& literal, in
     const Solid3d& planeA = *ours.workPlanes[0]->getSolid();
     const Solid3d& planeB = *literal.workPlanes[0]->getSolid();
     for (int32_t i = 1; i <= planeA.getPointUpperBound(); ++i) {
-        EXPECT_TRUE(
-            sameBytes(&planeA.getPointRecord(i), &planeB.getPointRecord(i), sizeof(PointRecord)))
+        EXPECT_TRUE(sameRecord(planeA.getPointRecord(i), planeB.getPointRecord(i)))
             << "step " << step << ", workplane point " << i;
     }
 }
