@@ -65,6 +65,38 @@ void frmTolvane::showStatus(const std::string& text) {
     }
 }
 
+std::optional<WindowGeometry> frmTolvane::attachSettings(SettingsStore& store) {
+    recentFiles.emplace(store, PosixFileSystem::instance(), menus,
+                        [this](const std::string& path) { openFile(path); });
+    rememberedSettings.emplace(store, menus, viewports, mouse);
+    const std::optional<WindowGeometry> window = rememberedSettings->restore();
+    layoutViewports();
+    return window;
+}
+
+void frmTolvane::saveSettings(const WindowGeometry& window) {
+    if (rememberedSettings) {
+        rememberedSettings->save(window);
+    }
+}
+
+void frmTolvane::fileUsed(const std::string& path) {
+    if (recentFiles) {
+        recentFiles->add(path);
+    }
+}
+
+void frmTolvane::openFile(const std::string& path) {
+    if (windowFrame == nullptr) {
+        return;
+    }
+    const bool own = MeshFiles::formatOf(path) == MeshFiles::Format::Tvm;
+    windowFrame->answerNextFileDialog(path);
+    menus.item(own ? "mnuFileOpen" : "mnuFileImport").click();
+    // A command stopped by the unsaved-changes question never asked for the file.
+    windowFrame->answerNextFileDialog("");
+}
+
 void frmTolvane::Form_Load() {
     redrawAllViewports();
 }
