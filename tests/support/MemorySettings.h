@@ -3,35 +3,26 @@
 #include "platform/SettingsStore.h"
 
 #include <map>
-#include <string>
 #include <variant>
 
 // Settings in memory, each value of the type it was stored as, so that a test can store one
-// of the wrong type, as a foreign or damaged settings file would hold it.
-class MemorySettings : public SettingsStore {
-public:
-    using Value = std::variant<std::string, int, bool>;
+// of the wrong type, as a damaged or foreign settings file would hold it.
+struct MemorySettings : SettingsStore {
+    std::map<std::string, std::variant<std::string, int, bool>> values;
 
-    std::optional<std::string> getString(const std::string& key) const override {
-        return get<std::string>(key);
-    }
-    std::optional<int> getInt(const std::string& key) const override { return get<int>(key); }
-    std::optional<bool> getBool(const std::string& key) const override { return get<bool>(key); }
-    void setString(const std::string& key, const std::string& value) override {
-        values[key] = value;
-    }
-    void setInt(const std::string& key, int value) override { values[key] = value; }
-    void setBool(const std::string& key, bool value) override { values[key] = value; }
-    void remove(const std::string& key) override { values.erase(key); }
-
-    std::map<std::string, Value> values;
-
-private:
     template <class T> std::optional<T> get(const std::string& key) const {
         const auto found = values.find(key);
-        if (found == values.end() || !std::holds_alternative<T>(found->second)) {
-            return std::nullopt;
-        }
-        return std::get<T>(found->second);
+        return found != values.end() && std::holds_alternative<T>(found->second)
+                   ? std::optional<T>(std::get<T>(found->second))
+                   : std::nullopt;
     }
+    std::optional<std::string> getString(const std::string& k) const override {
+        return get<std::string>(k);
+    }
+    std::optional<int> getInt(const std::string& k) const override { return get<int>(k); }
+    std::optional<bool> getBool(const std::string& k) const override { return get<bool>(k); }
+    void setString(const std::string& k, const std::string& v) override { values[k] = v; }
+    void setInt(const std::string& k, int v) override { values[k] = v; }
+    void setBool(const std::string& k, bool v) override { values[k] = v; }
+    void remove(const std::string& k) override { values.erase(k); }
 };
