@@ -51,7 +51,7 @@ RecentFiles::RecentFiles(SettingsStore& store, FileSystem& files, MainMenu& menu
 void RecentFiles::add(const std::string& path) {
     std::string canonical;
     if (files_.resolve(path, canonical) || !acceptable(canonical)) {
-        canonical = path;
+        return;
     }
     std::erase(paths_, canonical);
     paths_.insert(paths_.begin(), canonical);

@@ -23,7 +23,7 @@ public:
                 std::function<void(const std::string&)> open);
 
     const std::vector<std::string>& paths() const { return paths_; }
-    // The file just used goes to the top (a path that cannot be resolved is taken as given).
+    // The file just used goes to the top; one whose path cannot be resolved is left out.
     void add(const std::string& path);
     void choose(size_t index);
     void clear();

@@ -90,11 +90,15 @@ void frmTolvane::openFile(const std::string& path) {
     if (windowFrame == nullptr) {
         return;
     }
+    // A command stopped before it asked for the file (by the unsaved-changes question) must
+    // leave no answer behind for the next dialog, which may be a save.
+    struct TakeBack {
+        WindowFrame& frame;
+        ~TakeBack() { frame.answerNextFileDialog(""); }
+    } takeBack{*windowFrame};
     const bool own = MeshFiles::formatOf(path) == MeshFiles::Format::Tvm;
     windowFrame->answerNextFileDialog(path);
     menus.item(own ? "mnuFileOpen" : "mnuFileImport").click();
-    // A command stopped by the unsaved-changes question never asked for the file.
-    windowFrame->answerNextFileDialog("");
 }
 
 void frmTolvane::Form_Load() {
