@@ -4,8 +4,8 @@
 #include <string>
 
 // What the editor's command line asks for: korvan [--record MACRO | --replay MACRO] [FILE],
-// or --help or --version, which are printed. A replay plays from the start-up document, so
-// it takes no FILE.
+// or --help or --version, which are printed. FILE is made absolute. A replay plays from the
+// start-up document, so it takes no FILE.
 struct CommandLine {
     enum class Action { Run, Print, Fail };
 

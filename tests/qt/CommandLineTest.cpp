@@ -1,6 +1,7 @@
 #include "qt/CommandLine.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <gtest/gtest.h>
 
 TEST(CommandLine, AFileBesideAMacroOptionHelpAndVersionPrintedAndEveryMistakeRefused) {
@@ -10,7 +11,7 @@ TEST(CommandLine, AFileBesideAMacroOptionHelpAndVersionPrintedAndEveryMistakeRef
     };
     const CommandLine file = parse({"--record", "m.macro", "scene.tvm"});
     EXPECT_EQ(file.action, CommandLine::Action::Run);
-    EXPECT_EQ(file.file, "scene.tvm");
+    EXPECT_EQ(file.file, QDir::current().absoluteFilePath("scene.tvm").toStdString());
     EXPECT_EQ(file.record, "m.macro");
     EXPECT_NE(parse({"--help"}).text.find("[FILE]"), std::string::npos);
     EXPECT_EQ(parse({"--version"}).text, "korvan_qt_tests 2.0\n");
