@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace {
 
@@ -53,6 +54,8 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     }
     line.record = parser.value(record).toStdString();
     line.replay = parser.value(replay).toStdString();
-    line.file = files.isEmpty() ? std::string() : files.front().toStdString();
+    // A macro records the file by this name, so it must not depend on the folder it was made in.
+    line.file =
+        files.isEmpty() ? std::string() : QFileInfo(files.front()).absoluteFilePath().toStdString();
     return line;
 }
