@@ -33,4 +33,9 @@ public:
     virtual UndoHistory& history() = 0;
     // A one-line result of a command for the user; nothing before the window is attached.
     virtual void showStatus(const std::string& text) = 0;
+    // The pointer's model coordinates on the workplane while a profile is drawn, empty when
+    // there are none to show.
+    virtual void showPointerPosition(const std::string& position) = 0;
+    // A file just opened, imported or saved, for the recent files.
+    virtual void fileUsed(const std::string& path) = 0;
 };

@@ -5,6 +5,7 @@
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/StatusText.h"
 #include "app/UndoHistory.h"
 #include "app/ViewportSet.h"
 #include "geometry/NumberText.h"
@@ -140,6 +141,9 @@ void FileCommands::Open() {
     // Workplanes and profiles stay in the document but lose their nodes until the next rebuild.
     tree_.showSolids(document_.solids);
     editor_.redrawAllViewports();
+    editor_.fileUsed(fileName_);
+    editor_.showStatus("Opened " + shownName() + " (" +
+                       StatusText::solidsAndFaces(document_.solids) + ")");
 }
 
 void FileCommands::Save() {
@@ -166,7 +170,9 @@ bool FileCommands::saveAs(const std::string& dialogTitle) {
     }
     editor_.history().markClean();
     fileName_ = TavrinMeshIO::normalizeFileName(name);
-    editor_.showStatus("Saved " + shownName());
+    editor_.fileUsed(fileName_);
+    editor_.showStatus("Saved " + shownName() + " (" +
+                       StatusText::solidsAndFaces(document_.solids) + ")");
     return true;
 }
 

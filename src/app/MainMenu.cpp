@@ -24,6 +24,12 @@ MainMenu::MainMenu() {
     MenuItem& file = bar.add("mnuFile", "&File");
     file.add("mnuFileNew", "&New");
     file.add("mnuFileOpen", "&Open");
+    MenuItem& recent = file.add("mnuRecentFiles", "Open &Recent");
+    for (int i = 1; i <= 10; ++i) {
+        recent.add("mnuRecentFile" + std::to_string(i), "").setVisible(false);
+    }
+    recent.add("mnuRecentSeparator", "-");
+    recent.add("mnuRecentClear", "Clear Menu").setEnabled(false);
     file.add("mnuFileSave", "&Save");
     file.add("mnuFileSaveAs", "Save &As...").setShortcuts({"Ctrl+Shift+S"});
     file.add("mnuFileImport", "&Import...");
@@ -53,6 +59,7 @@ MainMenu::MainMenu() {
     viewports.add("mnuOneWindow", "&One Window");
     viewports.add("mnuFourWindows", "&Four Windows");
     options.add("mnuDepthBufferedPictures", "&Depth-Buffered Pictures");
+    options.add("mnuRememberSettings", "&Remember Settings");
 
     MenuItem& view = bar.add("mnuView", "&View");
     MenuItem& projection = view.add("mnuProjectionType", "&Projection Type");

@@ -16,6 +16,13 @@ void MenuItem::setStatusTip(const std::string& tip) {
     }
 }
 
+void MenuItem::setCaption(const std::string& text) {
+    if (caption != text) {
+        caption = text;
+        changed();
+    }
+}
+
 void MenuItem::setChecked(bool value) {
     if (checked != value) {
         checked = value;

@@ -17,6 +17,8 @@ public:
 
     const std::string& getName() const { return name; }
     const std::string& getCaption() const { return caption; }
+    // For items whose caption follows what they stand for (a recent file).
+    void setCaption(const std::string& text);
     bool isSeparator() const { return caption == "-"; }
     // Key sequences in the desktop's portable text ("F1", "Ctrl+Shift+Z"), the first the one
     // the menu shows.

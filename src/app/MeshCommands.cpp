@@ -6,6 +6,7 @@
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/StatusText.h"
 #include "app/UndoHistory.h"
 #include "io/CommonDialogNoOCX.h"
 #include "platform/Prompts.h"
@@ -62,6 +63,9 @@ void MeshCommands::Import() {
     }
     editor_.history().push("Import " + withoutFolder(name), std::move(made));
     editor_.redrawAllViewports();
+    editor_.fileUsed(name);
+    editor_.showStatus("Imported " + withoutFolder(name) + " (" +
+                       StatusText::solidsAndFaces(objects) + ")");
 }
 
 ObjectList MeshCommands::solidsToExport() const {

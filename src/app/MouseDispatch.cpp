@@ -2,6 +2,7 @@
 
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
+#include "app/StatusText.h"
 #include "app/ViewportSet.h"
 #include "geometry/Rounding.h"
 #include "interaction/ClickHandleRotate.h"
@@ -15,6 +16,23 @@ MouseDispatch::MouseDispatch(ViewportSet& viewports, SceneDocument& document, Sc
                              SelectionReceiver& selection, ProfileReceiver& profileTool)
     : viewports_(viewports), document_(document), tree_(tree), selection_(selection),
       profileTool_(profileTool), mode_(std::make_unique<ClickHandleRotate>()) {}
+
+void MouseDispatch::attachFrame(WindowFrame& frame) {
+    frame_ = &frame;
+    showPointerPosition("");
+}
+
+void MouseDispatch::setMouseMode(std::unique_ptr<ClickHandleNothing> mode) {
+    mode_ = std::move(mode);
+    showPointerPosition("");
+}
+
+void MouseDispatch::showPointerPosition(const std::string& position) {
+    if (frame_ != nullptr) {
+        const std::string hint = StatusText::modeHint(*mode_);
+        frame_->showModeHint(position.empty() ? hint : hint + "    " + position);
+    }
+}
 
 MouseEventArgs MouseDispatch::eventArgs(Canvas& canvas, int32_t x, int32_t y,
                                         std::optional<viewInfo>& view) {

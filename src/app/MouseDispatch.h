@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 
 class Canvas;
 class ProfileReceiver;
@@ -27,8 +28,9 @@ public:
     MouseDispatch(ViewportSet& viewports, SceneDocument& document, SceneTreeModel& tree,
                   SelectionReceiver& selection, ProfileReceiver& profileTool);
 
-    // The window whose pop-up menu a right press shows; none before.
-    void attachFrame(WindowFrame& frame) { frame_ = &frame; }
+    // The window whose pop-up menu a right press shows and whose status bar says what the
+    // mouse does; none before.
+    void attachFrame(WindowFrame& frame);
 
     // A press on canvas picOrtho(index): button codes 1 left, 2 right, 4 middle and their
     // sums; coordinates in canvas pixels. False when there is no such canvas.
@@ -37,7 +39,10 @@ public:
     // The mode's overlay on a canvas that shows record, as the redraw paints it.
     void drawOverlay(Canvas& canvas, const ViewSpecs& record);
 
-    void setMouseMode(std::unique_ptr<ClickHandleNothing> mode) { mode_ = std::move(mode); }
+    // The new mode's hint goes to the status bar.
+    void setMouseMode(std::unique_ptr<ClickHandleNothing> mode);
+    // The mode's hint followed by the pointer's position (none when empty).
+    void showPointerPosition(const std::string& position);
     ClickHandleNothing& getMouseMode() const { return *mode_; }
     // The viewport number (1 to 4) of the last right press, 0 before the first.
     int32_t getPopupViewport() const { return popupViewport_; }

@@ -6,6 +6,7 @@
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectionState.h"
+#include "app/StatusText.h"
 #include "app/UndoHistory.h"
 #include "app/ViewportSet.h"
 #include "geometry/M3Ops.h"
@@ -84,8 +85,21 @@ void ProfileCommands::addProfilePoint(const PointRecord& clicked) {
                     "Cannot add profile point", MessageIcon::Information);
         return;
     }
+    document_.currentProfile->addPointRecord(onWorkplane(*workPlanes.front(), clicked));
+}
+
+void ProfileCommands::pointerMoved(const PointRecord& seen) {
+    const auto& workPlanes = selection_.selectedWorkplanes;
+    if (workPlanes.size() != 1) {
+        editor_.showPointerPosition("");
+        return;
+    }
+    const Point4 at = onWorkplane(*workPlanes.front(), seen).coord;
+    editor_.showPointerPosition(StatusText::pointerPosition(at.x, at.y, at.z));
+}
+
+PointRecord ProfileCommands::onWorkplane(const WorkPlane& wp, const PointRecord& clicked) {
     // The workplane lies offset along its normal; its points are moved by that vector.
-    const WorkPlane& wp = *workPlanes.front();
     Vector3D offset;
     offset.initializeAmpThetaPhi(wp.getOffset(),
                                  static_cast<float>(wp.getYRotation() + Pi::pi14 / 2),
@@ -96,7 +110,7 @@ void ProfileCommands::addProfilePoint(const PointRecord& clicked) {
     r.trans = Point4{};
     M3Ops::transformPoint(r.coord, shift, r.trans);
     r.coord = r.trans;
-    document_.currentProfile->addPointRecord(r);
+    return r;
 }
 
 bool ProfileCommands::closeProfile() {

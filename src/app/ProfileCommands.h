@@ -13,6 +13,7 @@ class Profile;
 class SceneTreeModel;
 class SelectionState;
 class ViewportSet;
+class WorkPlane;
 struct SceneDocument;
 
 // The commands of the profile being drawn on the one selected workplane: starting it,
@@ -41,6 +42,8 @@ public:
     // Moves a clicked point by the selected workplane's offset vector and appends it to the
     // current profile; without exactly one selected workplane it says why and adds nothing.
     void addProfilePoint(const PointRecord& clicked) override;
+    // Shows where a click would put the point, with exactly one selected workplane.
+    void pointerMoved(const PointRecord& seen) override;
     // Always false. Ends the profile where it began, has the user confirm which way it runs
     // (stored clockwise), and gives it its tree node; when the user cancels, the profile is
     // removed again. A confirmed first close is the step that adds the profile to the
@@ -53,6 +56,8 @@ public:
     void cancelProfile();
 
 private:
+    // The clicked point moved by the workplane's offset vector.
+    static PointRecord onWorkplane(const WorkPlane& wp, const PointRecord& clicked);
     // Whether there is a profile to work on; otherwise says so, with the title both
     // commands share.
     bool hasProfileFor(const char* refusal) const;

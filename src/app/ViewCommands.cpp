@@ -48,13 +48,6 @@ void ViewCommands::bind(MainMenu& menus, EditorPort& editor, ViewportSet& viewpo
         w->layoutViewports();
     });
 
-    // For very large meshes: pictures at rest drawn with a depth buffer, without the order.
-    MenuItem* depthBuffered = &menus.item("mnuDepthBufferedPictures");
-    menus.bind("mnuDepthBufferedPictures", [w, v, depthBuffered] {
-        v->depthBufferedAtRest = toggle(*depthBuffered);
-        w->redrawAllViewports();
-    });
-
     menus.bind("mnuParallel", [all] { all([](ViewSpecs& r) { r.ProjectionType = 0; }); });
     menus.bind("mnuPerspective", [all] { all([](ViewSpecs& r) { r.ProjectionType = 1; }); });
     menus.bind("mnuPopupParallel", [popup] { popup([](ViewSpecs& r) { r.ProjectionType = 0; }); });
@@ -84,8 +77,10 @@ void ViewCommands::bind(MainMenu& menus, EditorPort& editor, ViewportSet& viewpo
         popup([on](ViewSpecs& r) { r.wireFrame = on; });
     });
 
-    // Their check marks are the switches the redraw reads.
-    for (const char* name : {"mnuGrid", "mnuZeroAxes", "mnuReferenceAxes"}) {
+    // Their check marks are the switches the redraw reads (depth-buffered pictures at rest
+    // are for very large meshes).
+    for (const char* name :
+         {"mnuGrid", "mnuZeroAxes", "mnuReferenceAxes", "mnuDepthBufferedPictures"}) {
         MenuItem* item = &menus.item(name);
         menus.bind(name, [w, item] {
             toggle(*item);

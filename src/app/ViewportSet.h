@@ -69,7 +69,8 @@ public:
     void redrawAll(const ViewportScene& scene,
                    const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay,
                    bool documentChanged = true);
-    // Pictures at rest drawn with a depth buffer instead of the face order (off at start).
+    // Pictures at rest drawn with a depth buffer instead of the face order (the main window
+    // sets it from its Options menu before each redraw).
     bool depthBufferedAtRest = false;
     // The viewport, 0 to 3, that a navigation drag turns: drawn with a depth buffer until the
     // drag ends (-1: none). Its picture is rendered again, exactly, at the next redraw after.

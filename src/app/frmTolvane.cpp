@@ -72,6 +72,42 @@ void frmTolvane::showStatus(const std::string& text) {
     }
 }
 
+std::optional<WindowGeometry> frmTolvane::attachSettings(SettingsStore& store) {
+    recentFiles.emplace(store, PosixFileSystem::instance(), menus,
+                        [this](const std::string& path) { openFile(path); });
+    rememberedSettings.emplace(store, menus, viewports, mouse);
+    const std::optional<WindowGeometry> window = rememberedSettings->restore();
+    layoutViewports();
+    return window;
+}
+
+void frmTolvane::saveSettings(const WindowGeometry& window) {
+    if (rememberedSettings) {
+        rememberedSettings->save(window);
+    }
+}
+
+void frmTolvane::fileUsed(const std::string& path) {
+    if (recentFiles) {
+        recentFiles->add(path);
+    }
+}
+
+void frmTolvane::openFile(const std::string& path) {
+    if (windowFrame == nullptr) {
+        return;
+    }
+    // A command stopped before it asked for the file (by the unsaved-changes question) must
+    // leave no answer behind for the next dialog, which may be a save.
+    struct TakeBack {
+        WindowFrame& frame;
+        ~TakeBack() { frame.answerNextFileDialog(""); }
+    } takeBack{*windowFrame};
+    const bool own = MeshFiles::formatOf(path) == MeshFiles::Format::Tvm;
+    windowFrame->answerNextFileDialog(path);
+    menus.item(own ? "mnuFileOpen" : "mnuFileImport").click();
+}
+
 void frmTolvane::Form_Load() {
     redrawAllViewports();
 }
@@ -107,6 +143,7 @@ ViewportScene frmTolvane::viewportScene() {
 }
 
 void frmTolvane::redraw(bool documentChanged) {
+    viewports.depthBufferedAtRest = menus.item("mnuDepthBufferedPictures").isChecked();
     viewports.redrawAll(
         viewportScene(),
         [this](Canvas& canvas, const ViewSpecs& record) { mouse.drawOverlay(canvas, record); },

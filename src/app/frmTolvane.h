@@ -7,6 +7,8 @@
 #include "app/MeshCommands.h"
 #include "app/MouseDispatch.h"
 #include "app/ProfileCommands.h"
+#include "app/RecentFiles.h"
+#include "app/RememberedSettings.h"
 #include "app/SceneDocument.h"
 #include "app/SceneTreeModel.h"
 #include "app/SelectedItemCommands.h"
@@ -26,6 +28,7 @@ class Canvas;
 class ColorChooser;
 class FileChooser;
 class ModalHost;
+class SettingsStore;
 class UserEventListener;
 class WindowFrame;
 
@@ -50,6 +53,16 @@ public:
     // What File > Export Image... writes pictures with, after attachFrame; until then the
     // command does nothing.
     void attachPictureWriter(const PictureWriter& writer);
+    // The settings kept between runs: the recent files, and the state the user may have
+    // remembered, restored now (the window's geometry is returned for the window to take).
+    // Without them the window starts as it always has and keeps no recent files.
+    std::optional<WindowGeometry> attachSettings(SettingsStore& store);
+    // When the window closes: the remembered state written, if the user wants it kept.
+    void saveSettings(const WindowGeometry& window);
+    // Opens a file as File > Open does (File > Import... when it is not a .tvm file), the
+    // command's file dialog answered with path: the unsaved-changes question, the messages and
+    // a macro recording all take it for that command. Nothing before attachFrame.
+    void openFile(const std::string& path);
     // Load: draws the start-up document once the canvases are attached.
     void Form_Load();
     // Resize of the client area: lays the viewports out for the new size.
@@ -114,6 +127,10 @@ private:
     ClickHandleNothing& getMouseMode() const override { return mouse.getMouseMode(); }
     int32_t getPopupViewport() const override { return mouse.getPopupViewport(); }
     void showStatus(const std::string& text) override;
+    void showPointerPosition(const std::string& position) override {
+        mouse.showPointerPosition(position);
+    }
+    void fileUsed(const std::string& path) override;
 
     // Removes item n of its list with its node (the key given) as the step named, then
     // redraws.
@@ -146,4 +163,6 @@ private:
     std::optional<MeshCommands> meshCommands;
     std::optional<ImageCommands> imageCommands;
     std::optional<SelectedItemCommands> selectedItemCommands;
+    std::optional<RecentFiles> recentFiles;
+    std::optional<RememberedSettings> rememberedSettings;
 };

@@ -70,6 +70,11 @@ std::optional<viewInfo> ClickHandleProfile::handleMiddleClick(MouseEventArgs& ar
 std::optional<viewInfo> ClickHandleProfile::handleMouseMove(MouseEventArgs& args) {
     mouseX = args.mouseX;
     mouseY = args.mouseY;
+    if (args.viewSpecs) {
+        if (const auto seen = clickMapping(args.messageSender, *args.viewSpecs, mouseX, mouseY)) {
+            args.profileTool.pointerMoved(*seen);
+        }
+    }
     return std::nullopt;
 }
 

@@ -348,6 +348,12 @@ void MacroPlayer::showStatus(const std::string& text) {
     }
 }
 
+void MacroPlayer::showModeHint(const std::string& text) {
+    if (shown_ != nullptr) {
+        shown_->showModeHint(text);
+    }
+}
+
 void MacroPlayer::unload() {
     closed_ = true;
     if (shown_ != nullptr) {

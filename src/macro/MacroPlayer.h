@@ -77,6 +77,9 @@ public:
     void unload() override;
     void setTitle(const std::string& title, bool modified) override;
     void showStatus(const std::string& text) override;
+    void showModeHint(const std::string& text) override;
+    // A replay answers every file dialog from its macro.
+    void answerNextFileDialog(const std::string&) override {}
 
 private:
     // The source's next action for what waits, after checking the expect lines before it.

@@ -23,4 +23,11 @@ public:
     virtual void setTitle(const std::string& title, bool modified) = 0;
     // A one-line result of a command, at the foot of the window.
     virtual void showStatus(const std::string& text) = 0;
+    // The lasting part of the status bar: what the mouse does in the current mode, with the
+    // pointer's place while a profile is drawn.
+    virtual void showModeHint(const std::string& text) = 0;
+    // The file dialog's next question is answered with this path without being shown (a
+    // file named on the command line, dropped on the window or chosen from the recent
+    // files); an empty path takes such an answer back.
+    virtual void answerNextFileDialog(const std::string& path) = 0;
 };

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QStringList>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -47,6 +48,9 @@ QString withFilterExtension(const QString& path, const QString& nameFilter) {
 } // namespace
 
 std::string QtFileChooser::chooseFile(const std::string& title, const std::string& filter) {
+    if (!next_.empty()) {
+        return std::exchange(next_, {});
+    }
     QFileDialog dialog(parent_, QString::fromStdString(title),
                        QCoreApplication::applicationDirPath());
     dialog.setFileMode(QFileDialog::AnyFile);

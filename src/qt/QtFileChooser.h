@@ -2,6 +2,8 @@
 
 #include "platform/FileChooser.h"
 
+#include <string>
+
 class QWidget;
 
 // The file dialog as a QFileDialog, modal to the given parent. It opens in the program's own
@@ -12,7 +14,10 @@ public:
     explicit QtFileChooser(QWidget* parent = nullptr) : parent_(parent) {}
 
     std::string chooseFile(const std::string& title, const std::string& filter) override;
+    // The next call answers path without showing the dialog; empty takes it back.
+    void answerNext(std::string path) { next_ = std::move(path); }
 
 private:
     QWidget* parent_;
+    std::string next_;
 };

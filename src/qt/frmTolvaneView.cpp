@@ -9,12 +9,17 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPointer>
 #include <QResizeEvent>
 #include <QStatusBar>
+#include <QTimer>
 #include <functional>
 
 namespace {
@@ -37,6 +42,7 @@ private:
 // A check mark shows only on an item that carries one: an item that can be checked
 // would show an empty box beside its caption in some styles.
 void showItem(QAction& action, const MenuItem& item) {
+    action.setText(QString::fromStdString(item.getCaption()));
     action.setCheckable(item.isChecked());
     action.setChecked(item.isChecked());
     action.setEnabled(item.isEnabled());
@@ -100,11 +106,15 @@ frmTolvaneView::frmTolvaneView(frmTolvane& form, QWidget* parent)
 
     tree_ = new SceneTreeView(form_, client);
 
+    // The mode hint stays at the foot; results of commands show beside it for a while.
+    modeHint_ = new QLabel(this);
+    statusBar()->addPermanentWidget(modeHint_);
     form_.attachCanvases(canvases);
     form_.attachFrame(*this, files_, colors_);
     form_.attachPictureWriter(pictures_);
     // The status bar lies outside the client area, as the menu bar does.
     statusBar()->show();
+    setAcceptDrops(true);
     resize(frmTolvane::startUpClientWidth, frmTolvane::startUpClientHeight +
                                                menuBar()->sizeHint().height() +
                                                statusBar()->sizeHint().height());
@@ -190,6 +200,37 @@ void frmTolvaneView::showStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text));
 }
 
+void frmTolvaneView::showModeHint(const std::string& text) {
+    modeHint_->setText(QString::fromStdString(text));
+}
+
+void frmTolvaneView::attachSettings(SettingsStore& store) {
+    std::optional<WindowGeometry> window;
+    EventGuard::run([&] { window = form_.attachSettings(store); });
+    if (window) {
+        setGeometry(window->x, window->y, window->width, window->height);
+    }
+}
+
+void frmTolvaneView::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!urls.isEmpty() && urls.front().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmTolvaneView::dropEvent(QDropEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.isEmpty() || !urls.front().isLocalFile()) {
+        return;
+    }
+    event->acceptProposedAction();
+    // Opened once the drop is over: the command may ask questions in boxes of its own.
+    QTimer::singleShot(0, this, [this, path = urls.front().toLocalFile().toStdString()] {
+        EventGuard::run([&] { form_.openFile(path); });
+    });
+}
+
 void frmTolvaneView::closeEvent(QCloseEvent* event) {
     bool mayClose = unloading_;
     if (!mayClose) {
@@ -197,6 +238,10 @@ void frmTolvaneView::closeEvent(QCloseEvent* event) {
     }
     unloading_ = false;
     if (mayClose) {
+        const QRect shown = geometry();
+        EventGuard::run([&] {
+            form_.saveSettings(WindowGeometry{shown.x(), shown.y(), shown.width(), shown.height()});
+        });
         event->accept();
     } else {
         event->ignore();

@@ -12,7 +12,9 @@
 
 class CanvasWidget;
 class MenuItem;
+class QLabel;
 class QMenu;
+class SettingsStore;
 class SceneTreeView;
 
 // Shows the main window's logic (frmTolvane): four viewport canvases and the scene tree in
@@ -37,11 +39,18 @@ public:
     void unload() override;
     void setTitle(const std::string& title, bool modified) override;
     void showStatus(const std::string& text) override;
+    void showModeHint(const std::string& text) override;
+    void answerNextFileDialog(const std::string& path) override { files_.answerNext(path); }
+    // Restores what the settings keep, and writes it back when the window closes.
+    void attachSettings(SettingsStore& store);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     // Closing the window with unsaved work asks first; Cancel keeps the window.
     void closeEvent(QCloseEvent* event) override;
+    // A file dropped on the window is opened as File > Open would.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void clientResized(int width, int height);
@@ -55,6 +64,7 @@ private:
     std::array<CanvasWidget*, 4> canvases_{};
     SceneTreeView* tree_ = nullptr;
     QMenu* popup_ = nullptr;
+    QLabel* modeHint_ = nullptr;
     bool busy_ = false;
     // Set by unload: the logic has settled unsaved work already.
     bool unloading_ = false;

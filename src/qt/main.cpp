@@ -1,3 +1,4 @@
+#include "app/EventGuard.h"
 #include "app/frmMouseSensivity.h"
 #include "app/frmSplash.h"
 #include "app/frmTolvane.h"
@@ -12,9 +13,11 @@
 #include "modelling/frmFaceProperty.h"
 #include "modelling/frmPointIndexSelect.h"
 #include "modelling/frmSolidProperty.h"
+#include "qt/CommandLine.h"
 #include "qt/ExportImageDialogView.h"
 #include "qt/QtModalHost.h"
 #include "qt/QtPrompts.h"
+#include "qt/QtSettingsStore.h"
 #include "qt/frmAdditionalExtrusionsView.h"
 #include "qt/frmExtrudeView.h"
 #include "qt/frmFacePropertyView.h"
@@ -63,19 +66,29 @@ int fail(const std::string& message) {
 }
 
 // The editor as the user meets it: the splash plays first and shows the main window when
-// it is done. With a recorder, everything the user does is written to its macro.
-int runEditor(MacroRecorder* recorder, QtModalHost& dialogs) {
+// it is done, and then opens the file named, if any. With a recorder, everything the user
+// does is written to its macro, from the start-up state: a recording neither reads nor
+// writes the settings, so that it plays back alike anywhere.
+int runEditor(MacroRecorder* recorder, QtModalHost& dialogs, const std::string& file) {
     ModalHost& host = recorder != nullptr ? static_cast<ModalHost&>(*recorder) : dialogs;
     frmTolvane form(host);
     frmTolvaneView window(form);
     QtPrompts prompts(&window);
     installPrompts(&prompts);
+    std::optional<QtSettingsStore> settings;
     if (recorder != nullptr) {
         recorder->attach(form, window, window.fileChooser(), window.colorChooser(), prompts);
+    } else {
+        window.attachSettings(settings.emplace());
     }
     frmSplash splashForm;
     frmSplashView splash(splashForm);
-    QObject::connect(&splash, &frmSplashView::finished, &window, &QWidget::show);
+    QObject::connect(&splash, &frmSplashView::finished, &window, [&window, &form, &file] {
+        window.show();
+        if (!file.empty()) {
+            EventGuard::run([&] { form.openFile(file); });
+        }
+    });
     splash.show();
 
     const int status = QApplication::exec();
@@ -95,6 +108,8 @@ int replay(const std::string& path) {
     MacroPlayer player(*macro);
     frmTolvane form(player);
     frmTolvaneView window(form);
+    // What the macro does is all that happens: a drop would open a file it does not name.
+    window.setAcceptDrops(false);
     player.attach(form, &window);
     player.setResizer([&window](int width, int height) { window.setClientSize(width, height); });
     installPrompts(&player);
@@ -124,29 +139,31 @@ int replay(const std::string& path) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    const QStringList args = QApplication::arguments();
-    const auto usage = [] { return fail("usage: korvan [--record MACRO | --replay MACRO]"); };
-    if (args.size() > 3 || args.size() == 2) {
-        return usage();
+    QApplication::setApplicationName("korvan");
+    QApplication::setApplicationVersion(KORVAN_VERSION);
+    const CommandLine line = CommandLine::parse(QApplication::arguments());
+    if (line.action == CommandLine::Action::Print) {
+        std::fputs(line.text.c_str(), stdout);
+        return 0;
+    }
+    if (line.action == CommandLine::Action::Fail) {
+        return fail(line.text);
     }
     QtModalHost dialogs;
     registerViews(dialogs);
-    if (args.size() == 1) {
-        return runEditor(nullptr, dialogs);
+    if (!line.replay.empty()) {
+        return replay(line.replay);
     }
-    const std::string path = args[2].toStdString();
-    if (args[1] == "--replay") {
-        return replay(path);
-    }
-    if (args[1] != "--record") {
-        return usage();
+    if (line.record.empty()) {
+        return runEditor(nullptr, dialogs, line.file);
     }
     std::optional<MacroWriter> writer;
     try {
-        writer.emplace(MacroWriter::create(PosixFileSystem::instance(), path));
+        writer.emplace(MacroWriter::create(PosixFileSystem::instance(), line.record));
     } catch (const std::system_error& error) {
-        return fail("cannot write the macro " + path + ": " + MessageText::reason(error.code()));
+        return fail("cannot write the macro " + line.record + ": " +
+                    MessageText::reason(error.code()));
     }
     MacroRecorder recorder(*writer, dialogs);
-    return runEditor(&recorder, dialogs);
+    return runEditor(&recorder, dialogs, line.file);
 }

@@ -1,9 +1,12 @@
 #include "app/frmTolvane.h"
 
+#include "app/ListChange.h"
 #include "interaction/ClickHandleScroll.h"
 #include "interaction/ClickHandleZoom.h"
 #include "scene/Profile.h"
 #include "scene/Transformed3d.h"
+#include "support/MemorySettings.h"
+#include "support/TempFolder.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
@@ -149,4 +152,33 @@ TEST(frmTolvaneTree, NodeClicksSelectByKeyDeleteRemovesTheSolidAndAnyKeyRenumber
     EXPECT_TRUE(w.form.getSelection().isPropertyMenuEnabled());
     w.form.getSelection().resetSelectWorkplanes();
     EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
+}
+
+TEST(frmTolvane, AFileNamedGoesThroughOpenOrImportAndJoinsTheRecentFiles) {
+    TempFolder folder;
+    MemorySettings store;
+    TestWindow w;
+    w.form.attachSettings(store);
+    w.form.getDocument().solids.push_back(makeObject());
+    w.files.queueAnswer(folder.file("b.obj"));
+    w.choose({"&File", "Export &Mesh..."});
+    w.form.openFile(folder.file("b.obj"));
+    EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
+    EXPECT_EQ(w.frame.status(), "Imported b.obj (1 solid, 6 faces)");
+    w.files.queueAnswer(folder.file("a.tvm"));
+    w.choose({"&File", "&Save"});
+    EXPECT_EQ(w.frame.status(), "Saved a.tvm (2 solids, 12 faces)");
+
+    SceneDocument& document = w.form.getDocument(); // unsaved: Cancel stops Open before it asks
+    w.form.history().push("Extrude", ListChange<Transformed3d>::insert(document, makeObject(), 0));
+    w.prompts.queueAnswer(MessageAnswer::Cancel);
+    w.form.openFile(folder.file("a.tvm"));
+    w.prompts.queueAnswer(MessageAnswer::Discard);
+    w.choose({"&File", "&Open"}); // so it is not answered with the name either: cancelled
+    EXPECT_EQ(document.solids.size(), 3u);
+    w.prompts.queueAnswer(MessageAnswer::Discard);
+    w.form.openFile(folder.file("a.tvm"));
+    EXPECT_EQ(w.frame.status(), "Opened a.tvm (2 solids, 12 faces)");
+    EXPECT_EQ(w.form.getMenus().item("mnuRecentFile2").getCaption(),
+              "&2 " + std::filesystem::canonical(folder.file("b.obj")).string());
 }

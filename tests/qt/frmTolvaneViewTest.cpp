@@ -5,10 +5,15 @@
 #include "qt/DesktopKey.h"
 #include "scene/Transformed3d.h"
 #include "support/ShownWindow.h"
+#include "support/TempFolder.h"
 #include "support/TestSolids.h"
 
+#include <QDragEnterEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -129,6 +134,22 @@ TEST(frmTolvaneView, ClosingWithUnsavedWorkAsksFirstAndCancelKeepsTheWindow) {
     EXPECT_TRUE(s.window.isWindowModified());
     s.prompts.queueAnswer(MessageAnswer::Discard);
     EXPECT_TRUE(s.window.close());
+}
+
+TEST(frmTolvaneView, AFileDroppedIsOpenedAndTheStatusBarSaysSoBesideTheModeHint) {
+    TempFolder folder;
+    ASSERT_TRUE(TavrinMeshIO().saveFile({makeObject()}, folder.file("a.tvm")));
+    ShownWindow s;
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.file("a.tvm")))});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&s.window, &enter);
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&s.window, &drop);
+    QApplication::processEvents();
+    EXPECT_EQ(s.window.statusBar()->currentMessage(), QString("Opened a.tvm (1 solid, 6 faces)"));
+    EXPECT_EQ(s.window.statusBar()->findChild<QLabel*>()->text(),
+              QString("Rotate: drag with the left button to turn the view"));
 }
 
 int main(int argc, char** argv) {

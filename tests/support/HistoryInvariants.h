@@ -34,6 +34,8 @@ public:
     void unload() override {}
     void setTitle(const std::string&, bool) override {}
     void showStatus(const std::string& text) override { statuses_.push_back(text); }
+    void showModeHint(const std::string&) override {}
+    void answerNextFileDialog(const std::string&) override {}
 
 private:
     // A digest of the saved bytes; nothing when the document cannot be saved.

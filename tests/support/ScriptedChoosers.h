@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A file chooser that answers from a queue the test fills (cancelling when it runs dry)
@@ -18,15 +19,18 @@ public:
     };
 
     void queueAnswer(std::string path) { answers_.push(std::move(path)); }
+    // The next call's answer before those queued; empty takes it back.
+    void answerNext(std::string path) { next_ = std::move(path); }
     const std::vector<Request>& requests() const { return requests_; }
 
     std::string chooseFile(const std::string& title, const std::string& filter) override {
         requests_.push_back({title, filter});
-        return answers_.take("");
+        return !next_.empty() ? std::exchange(next_, {}) : answers_.take("");
     }
 
 private:
     AnswerQueue<std::string> answers_;
+    std::string next_;
     std::vector<Request> requests_;
 };
 

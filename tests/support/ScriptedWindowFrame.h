@@ -2,6 +2,7 @@
 
 #include "platform/WindowFrame.h"
 #include "support/AnswerQueue.h"
+#include "support/ScriptedChoosers.h"
 
 #include <functional>
 #include <string>
@@ -23,6 +24,14 @@ public:
         modified_ = modified;
     }
     void showStatus(const std::string& text) override { status_ = text; }
+    void showModeHint(const std::string& text) override { modeHint_ = text; }
+    void answerNextFileDialog(const std::string& path) override {
+        if (files != nullptr) {
+            files->answerNext(path);
+        }
+    }
+    // The chooser that takes the answers given beforehand.
+    ScriptedFileChooser* files = nullptr;
 
     void queuePopupChoice(std::function<void()> choose) { choices_.push(std::move(choose)); }
     const std::vector<MousePointer>& pointers() const { return pointers_; }
@@ -30,6 +39,7 @@ public:
     const std::string& title() const { return title_; }
     bool modified() const { return modified_; }
     const std::string& status() const { return status_; }
+    const std::string& modeHint() const { return modeHint_; }
 
 private:
     std::vector<MousePointer> pointers_;
@@ -37,5 +47,6 @@ private:
     std::string title_;
     bool modified_ = false;
     std::string status_;
+    std::string modeHint_;
     AnswerQueue<std::function<void()>> choices_;
 };

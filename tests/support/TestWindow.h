@@ -35,6 +35,7 @@ struct TestWindow {
     frmTolvane form{dialogs};
 
     TestWindow() {
+        frame.files = &files;
         form.attachCanvases({&canvases[0], &canvases[1], &canvases[2], &canvases[3]});
         form.attachFrame(frame, files, colors);
         form.Form_Load();
