@@ -105,7 +105,7 @@ static void BM_DragStepTwisted(benchmark::State& state) {
 // All views at rest with the depth-buffered option, turning every iteration.
 static void BM_DepthBufferTwisted(benchmark::State& state) {
     Editor editor(BenchScenes::twistedExtrusion(), static_cast<int>(state.range(0)));
-    editor.form.getViewports().depthBufferedAtRest = true;
+    editor.form.getMenus().item("mnuDepthBufferedPictures").setChecked(true);
     int64_t iteration = 0;
     for (auto _ : state) {
         editor.turnViews(iteration++);

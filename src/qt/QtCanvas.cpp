@@ -189,9 +189,9 @@ void QtCanvas::overlayPixels(const Bitmap& image) {
         const uint32_t* source = image.pixels.data() + static_cast<size_t>(y) * image.width;
         auto* target = reinterpret_cast<QRgb*>(image_.scanLine(y));
         for (int x = 0; x < width; ++x) {
-            if ((source[x] >> 24) != 0) {
-                target[x] = source[x] | 0xFF000000u;
-            }
+            // Without a branch: covered and uncovered pixels alternate along a row.
+            const uint32_t covered = 0u - (source[x] >> 24 != 0 ? 1u : 0u);
+            target[x] = (source[x] & covered) | (target[x] & ~covered);
         }
     }
 }

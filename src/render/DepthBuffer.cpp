@@ -43,16 +43,28 @@ void DepthBuffer::fill(const std::vector<CanvasPoint>& points, const std::vector
     const int width = picture_.width;
     filler_.forEachSpan(width, picture_.height, points, [&](int y, int32_t left, int32_t right) {
         const size_t row = static_cast<size_t>(y) * static_cast<size_t>(width);
-        // Stepped along the row: the depths need only order the faces, not be exact.
-        auto depth = static_cast<float>(a * (left + 0.5) + b * (y + 0.5) + c);
+        // In single precision along the row: the depths need only order the faces. Each
+        // pixel's depth is found apart and without a branch, so that pixels do not wait for
+        // each other: faces overlap many times over, and which is nearer changes often.
+        const auto first = static_cast<float>(a * (left + 0.5) + b * (y + 0.5) + c);
         const auto step = static_cast<float>(a);
-        float* kept = depth_.data() + row;
-        uint32_t* pixels = picture_.pixels.data() + row;
-        for (int32_t x = left; x < right; ++x, depth += step) {
-            if (depth >= kept[x]) {
-                kept[x] = depth;
-                pixels[x] = pixel;
-            }
+        float* kept = depth_.data() + row + left;
+        uint32_t* pixels = picture_.pixels.data() + row + left;
+        const int32_t count = right - left;
+        for (int32_t i = 0; i < count; ++i) {
+            const float depth = first + step * static_cast<float>(i);
+            const uint32_t nearer = 0u - static_cast<uint32_t>(depth >= kept[i]);
+            kept[i] = std::max(kept[i], depth);
+            pixels[i] = (pixel & nearer) | (pixels[i] & ~nearer);
         }
     });
+}
+
+void DepthBuffer::takeNearer(const DepthBuffer& other) {
+    const size_t size = std::min(depth_.size(), other.depth_.size());
+    for (size_t i = 0; i < size; ++i) {
+        const uint32_t nearer = 0u - static_cast<uint32_t>(other.depth_[i] >= depth_[i]);
+        depth_[i] = std::max(depth_[i], other.depth_[i]);
+        picture_.pixels[i] = (other.picture_.pixels[i] & nearer) | (picture_.pixels[i] & ~nearer);
+    }
 }

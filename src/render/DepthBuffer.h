@@ -16,10 +16,12 @@ class DepthBuffer {
 public:
     // Sizes the picture and uncovers every pixel.
     void reset(int width, int height);
-    // corners: the transformed corners (x, y in canvas pixels, then depth), three per entry in
-    // depths; points: the same corners rounded, as the polygon is filled.
+    // depths: x and y in canvas pixels and the depth of each transformed corner; points: the
+    // same corners rounded, as the polygon is filled.
     void fill(const std::vector<CanvasPoint>& points, const std::vector<float>& depths,
               int32_t color);
+    // Each pixel the other covers nearer, or as near, takes the other's colour and depth.
+    void takeNearer(const DepthBuffer& other);
     const Bitmap& picture() const { return picture_; }
 
 private:

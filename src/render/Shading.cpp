@@ -30,7 +30,34 @@ void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, con
     const float vx = ex / eyeDistance;
     const float vy = ey / eyeDistance;
     const float vz = ez / eyeDistance;
-
+    // First each light's geometry, then the specular powers of the lit ones together (their
+    // multiplications are most of the work and independent of each other), then the sums in
+    // the lights' order.
+    struct Lit {
+        const LightSource* light;
+        double f;
+    };
+    constexpr size_t batch = 8;
+    Lit lit[batch];
+    float bases[batch];
+    float powers[batch];
+    size_t count = 0;
+    const auto addLit = [&] {
+        RootMod::SngRoots(bases, static_cast<int>(count), s.SpecularN, powers);
+        for (size_t k = 0; k < count; ++k) {
+            const LightSource& light = *lit[k].light;
+            const double f = lit[k].f;
+            c.red = Rounding::toInt32(c.red + light.Ir * static_cast<double>(s.DiffuseKr) * f);
+            c.green = Rounding::toInt32(c.green + light.Ig * static_cast<double>(s.DiffuseKg) * f);
+            c.blue = Rounding::toInt32(c.blue + light.Ib * static_cast<double>(s.DiffuseKb) * f);
+            const double specular =
+                static_cast<double>(powers[k]) * static_cast<double>(s.SpecularK);
+            c.red = Rounding::toInt32(c.red + light.Ir * specular);
+            c.green = Rounding::toInt32(c.green + light.Ig * specular);
+            c.blue = Rounding::toInt32(c.blue + light.Ib * specular);
+        }
+        count = 0;
+    };
     for (const auto& light : lights) {
         const float lx = (useShift ? light->x2 : light->x) - s.px;
         const float ly = light->y - s.py;
@@ -44,11 +71,6 @@ void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, con
             continue; // turned away from this light
         }
         const float att = (light->Kdist + light->Rmin) / (light->Kdist + dist);
-        const double f = std::fabs(static_cast<double>(cosine) * att);
-        c.red = Rounding::toInt32(c.red + light->Ir * static_cast<double>(s.DiffuseKr) * f);
-        c.green = Rounding::toInt32(c.green + light->Ig * static_cast<double>(s.DiffuseKg) * f);
-        c.blue = Rounding::toInt32(c.blue + light->Ib * static_cast<double>(s.DiffuseKb) * f);
-
         // L reflected about the normal, against the direction to the eye.
         const float rx = 2 * s.nx * cosine - Lx;
         const float ry = 2 * s.ny * cosine - Ly;
@@ -56,12 +78,13 @@ void addLights(Channels& c, const ShadedSurface& s, const LightList& lights, con
         const auto rv =
             static_cast<float>(static_cast<double>(rx) * vx + static_cast<double>(ry) * vy +
                                static_cast<double>(rz) * vz);
-        const double specular = static_cast<double>(RootMod::SngRoot(rv, s.SpecularN)) *
-                                static_cast<double>(s.SpecularK);
-        c.red = Rounding::toInt32(c.red + light->Ir * specular);
-        c.green = Rounding::toInt32(c.green + light->Ig * specular);
-        c.blue = Rounding::toInt32(c.blue + light->Ib * specular);
+        lit[count] = Lit{light.get(), std::fabs(static_cast<double>(cosine) * att)};
+        bases[count] = rv;
+        if (++count == batch) {
+            addLit();
+        }
     }
+    addLit();
 }
 
 } // namespace

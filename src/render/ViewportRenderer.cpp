@@ -29,6 +29,7 @@ struct ViewportRenderer::View {
     std::vector<float> lightRanges;       // Rmin, Kdist per light
     LightList lights;                     // copies of the scene's lights with these ranges
     RadixSort<Transformed3d>* depthSorter = nullptr;
+    DepthBuffer* depthBuffer = nullptr;
 
     bool painted() const {
         return target.paint == ViewportPaint::Exact || target.paint == ViewportPaint::Depth;
@@ -92,12 +93,17 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
     while (depthSorters_.size() < targets.size()) {
         depthSorters_.push_back(std::make_unique<RadixSort<Transformed3d>>());
     }
+    // One more depth buffer than viewports, for painting one viewport on both cores.
+    while (depthBuffers_.size() < targets.size() + 1) {
+        depthBuffers_.push_back(std::make_unique<DepthBuffer>());
+    }
     for (size_t i = 0; i < targets.size(); ++i) {
         View& view = views[i];
         view.target = targets[i];
         view.full = KorvanOpsConsts::getFullViewMatrix(*view.target.canvas, *view.target.record);
         KorvanOpsConsts::getEyePosition(*view.target.record, view.ex, view.ey, view.ez);
         view.depthSorter = depthSorters_[i].get();
+        view.depthBuffer = depthBuffers_[i].get();
     }
     gatherNormals(scene);
     onBothCores(views.size(), [&](size_t i) {
@@ -146,7 +152,11 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
             painted.push_back(&view);
         }
     }
-    onBothCores(painted.size(), [&](size_t i) { paintObjects(*painted[i], scene); });
+    if (painted.size() == 1 && depthBuffered(*painted.front())) {
+        paintDepthOnBothCores(*painted.front(), scene);
+    } else {
+        onBothCores(painted.size(), [&](size_t i) { paintObjects(*painted[i], scene); });
+    }
     for (View& view : views) {
         if (view.target.paint == ViewportPaint::Untouched) {
             continue;
@@ -269,10 +279,14 @@ void ViewportRenderer::gatherNormals(const ViewportScene& scene) {
     for (size_t k = 0; k < scene.solids.size(); ++k) {
         const auto solid = scene.solids[k]->getSolid();
         facts_[k].normals.resize(solid ? solid->faces.size() * 3 : 0);
+        facts_[k].unitNormals.resize(facts_[k].normals.size());
     }
     inParts(scene, [&](size_t k, size_t f, const Face3d& face) {
         float* normal = facts_[k].normals.data() + f * 3;
         face.NormalVector(normal[0], normal[1], normal[2]);
+        float* unit = facts_[k].unitNormals.data() + f * 3;
+        std::copy(normal, normal + 3, unit);
+        Face3d::toUnitLength(unit[0], unit[1], unit[2]);
     });
 }
 
@@ -332,19 +346,56 @@ void ViewportRenderer::fitLights(View& view, const ViewportScene& scene) const {
     }
 }
 
+bool ViewportRenderer::depthBuffered(const View& view) {
+    // The depth buffer stands in for the face order; outlines and unordered faces keep theirs.
+    const ViewSpecs& record = *view.target.record;
+    return view.target.paint == ViewportPaint::Depth && record.HideSurfaces && !record.wireFrame;
+}
+
 void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) const {
     Canvas& canvas = *view.target.canvas;
-    const ViewSpecs& record = *view.target.record;
-    // The depth buffer stands in for the face order; outlines and unordered faces keep theirs.
-    const bool depthBuffered =
-        view.target.paint == ViewportPaint::Depth && record.HideSurfaces && !record.wireFrame;
-    DepthBuffer buffer;
-    if (depthBuffered) {
-        buffer.reset(canvas.scaleWidth(), canvas.scaleHeight());
+    if (!depthBuffered(view)) {
+        shadeFaces(
+            view, scene, 0, 1,
+            [&](const std::vector<CanvasPoint>& points, const std::vector<float>&, int32_t color) {
+                Face3d::paintPolygon(canvas, points, color, view.target.record->wireFrame);
+            });
+        return;
     }
+    view.depthBuffer->reset(canvas.scaleWidth(), canvas.scaleHeight());
+    shadeFaces(view, scene, 0, 1, [&](const auto& points, const auto& corners, int32_t color) {
+        view.depthBuffer->fill(points, corners, color);
+    });
+    canvas.overlayPixels(view.depthBuffer->picture());
+}
+
+void ViewportRenderer::paintDepthOnBothCores(View& view, const ViewportScene& scene) {
+    // Every other face into a second buffer, merged after: a drag paints one viewport alone.
+    Canvas& canvas = *view.target.canvas;
+    DepthBuffer& other = *depthBuffers_.back();
+    view.depthBuffer->reset(canvas.scaleWidth(), canvas.scaleHeight());
+    other.reset(canvas.scaleWidth(), canvas.scaleHeight());
+    onBothCores(2, [&](size_t part) {
+        DepthBuffer& buffer = part == 0 ? *view.depthBuffer : other;
+        shadeFaces(view, scene, part, 2,
+                   [&](const auto& points, const auto& corners, int32_t color) {
+                       buffer.fill(points, corners, color);
+                   });
+    });
+    view.depthBuffer->takeNearer(other);
+    canvas.overlayPixels(view.depthBuffer->picture());
+}
+
+template <class Paint>
+void ViewportRenderer::shadeFaces(const View& view, const ViewportScene& scene, size_t part,
+                                  size_t parts, Paint paint) const {
+    Canvas& canvas = *view.target.canvas;
+    const ViewSpecs& record = *view.target.record;
+    const bool depth = depthBuffered(view);
     std::vector<CanvasPoint> points;
     std::vector<float> corners;
     std::vector<uint32_t> listOrder;
+    bool painted = false;
     for (const size_t place : view.order) {
         const auto& object = scene.solids[place];
         const SolidProjection& seen = view.objects[place];
@@ -352,9 +403,10 @@ void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) cons
         if (!solid) {
             continue;
         }
+        painted = true;
         const FaceList& faces = solid->faces;
         std::vector<uint32_t> sorted;
-        const bool ordered = record.HideSurfaces && !solid->IsConvex && !depthBuffered;
+        const bool ordered = record.HideSurfaces && !solid->IsConvex && !depth;
         if (ordered) {
             sorted = FaceOrder::order(faces, seen);
         } else {
@@ -364,10 +416,13 @@ void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) cons
             }
         }
         const bool objectSelected = object->isSelected();
-        canvas.setDrawStyle(DrawInvisible);
+        if (!depth) {
+            canvas.setDrawStyle(DrawInvisible);
+        }
         for (const uint32_t f : ordered ? sorted : listOrder) {
             const Face3d& face = *faces[f];
-            if (seen.culled[f] != 0 || face.getSolidContainer() == nullptr || face.NumPts < 3) {
+            if (seen.culled[f] != 0 || face.getSolidContainer() == nullptr || face.NumPts < 3 ||
+                f % parts != part) {
                 continue;
             }
             points.clear();
@@ -380,7 +435,8 @@ void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) cons
             if (Face3d::allOffCanvas(points, canvas)) {
                 continue;
             }
-            const ShadedSurface surface = face.shadedSurface();
+            const float* unit = facts_[place].unitNormals.data() + size_t{f} * 3;
+            const ShadedSurface surface = face.shadedSurface(unit[0], unit[1], unit[2]);
             const EyePoint eye{view.ex, view.ey, view.ez};
             int32_t color = 0;
             if (face.isSelected()) {
@@ -394,17 +450,17 @@ void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) cons
             } else {
                 color = Shading::shadeColor(surface, view.lights, eye, false);
             }
-            if (depthBuffered) {
-                buffer.fill(points, corners, color);
-            } else {
-                Face3d::paintPolygon(canvas, points, color, record.wireFrame);
-            }
+            paint(points, corners, color);
         }
+        if (!depth) {
+            canvas.setDrawStyle(DrawSolid);
+            canvas.setFillStyle(FillSolid);
+        }
+    }
+    // The canvas is left with the styles a painted object leaves.
+    if (depth && painted && part == 0) {
         canvas.setDrawStyle(DrawSolid);
         canvas.setFillStyle(FillSolid);
-    }
-    if (depthBuffered) {
-        canvas.overlayPixels(buffer.picture());
     }
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 class Canvas;
+class DepthBuffer;
 class Transformed3d;
 
 // How a redraw treats one viewport.
@@ -64,17 +65,26 @@ private:
     struct View;
     void see(View& view, const ViewportScene& scene) const;
     void fitLights(View& view, const ViewportScene& scene) const;
+    static bool depthBuffered(const View& view);
     void paintObjects(View& view, const ViewportScene& scene) const;
+    void paintDepthOnBothCores(View& view, const ViewportScene& scene);
+    // Calls paint(points, corners, color) for each face the view shows, in painting order,
+    // every parts-th one from part on.
+    template <class Paint>
+    void shadeFaces(const View& view, const ViewportScene& scene, size_t part, size_t parts,
+                    Paint paint) const;
     void drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const;
     void store(const std::vector<View>& views, const ViewportScene& scene) const;
 
-    // Per viewport, kept so that the object order's buffers are reused.
+    // Per viewport, kept so that the object order's and the depth buffer's memory is reused.
     std::vector<std::unique_ptr<RadixSort<Transformed3d>>> depthSorters_;
+    std::vector<std::unique_ptr<DepthBuffer>> depthBuffers_;
     // What every viewport reads of each face, per object, computed once per redraw: its
-    // normal (three values) and the squares of its nearest and farthest corner's distance
-    // from each light (two per light).
+    // normal and unit normal (three values each) and the squares of its nearest and farthest
+    // corner's distance from each light (two per light).
     struct FaceFacts {
         std::vector<float> normals;
+        std::vector<float> unitNormals;
         std::vector<double> lightSquares;
     };
     template <class Work> static void inParts(const ViewportScene& scene, Work work);

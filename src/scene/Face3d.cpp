@@ -120,6 +120,10 @@ void Face3d::TransformedNormalVector(float& x, float& y, float& z) const {
 
 void Face3d::UnitNormalVector(float& x, float& y, float& z) const {
     NormalVector(x, y, z);
+    toUnitLength(x, y, z);
+}
+
+void Face3d::toUnitLength(float& x, float& y, float& z) {
     const auto length = static_cast<float>(std::sqrt(
         static_cast<double>(x) * x + static_cast<double>(y) * y + static_cast<double>(z) * z));
     if (!(length > 0)) {
@@ -321,8 +325,18 @@ bool Face3d::allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& 
 }
 
 ShadedSurface Face3d::shadedSurface() const {
+    float nx;
+    float ny;
+    float nz;
+    UnitNormalVector(nx, ny, nz);
+    return shadedSurface(nx, ny, nz);
+}
+
+ShadedSurface Face3d::shadedSurface(float nx, float ny, float nz) const {
     ShadedSurface s;
-    UnitNormalVector(s.nx, s.ny, s.nz);
+    s.nx = nx;
+    s.ny = ny;
+    s.nz = nz;
     const Point4& p = solid_->getPointRecord(indices_.front()).coord;
     s.px = p.x;
     s.py = p.y;

@@ -64,6 +64,8 @@ public:
     void NormalVector(float& x, float& y, float& z) const;
     void TransformedNormalVector(float& x, float& y, float& z) const;
     void UnitNormalVector(float& x, float& y, float& z) const;
+    // Scales a vector to unit length as UnitNormalVector does; a zero vector stays.
+    static void toUnitLength(float& x, float& y, float& z);
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
     // Lowers smallest and raises largest to the squares of the corners' distances from the
     // light, culled or not, as getRMinRMax measures them before taking their roots.
@@ -102,6 +104,8 @@ public:
 
     // What shading reads of the face: its unit normal, its first corner and its coefficients.
     ShadedSurface shadedSurface() const;
+    // The same with the unit normal given.
+    ShadedSurface shadedSurface(float nx, float ny, float nz) const;
     // Whether every corner lies off the canvas: then the face paints nothing.
     static bool allOffCanvas(const std::vector<CanvasPoint>& points, const Canvas& pic);
     // Fills points with the face colour (outlines only, in that colour, for a wireframe),
