@@ -1,6 +1,6 @@
 #include "render/KorvanOpsConsts.h"
 
-#include "macro/BlankCanvas.h"
+#include "render/BlankCanvas.h"
 
 #include <benchmark/benchmark.h>
 

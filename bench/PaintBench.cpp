@@ -1,6 +1,6 @@
 #include "BenchScenes.h"
-#include "macro/BlankCanvas.h"
 #include "qt/QtCanvas.h"
+#include "render/BlankCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
 

@@ -1,7 +1,7 @@
 #include "BenchScenes.h"
 #include "app/SceneDocument.h"
-#include "macro/BlankCanvas.h"
 #include "qt/QtCanvas.h"
+#include "render/BlankCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "render/ViewportRenderer.h"
 

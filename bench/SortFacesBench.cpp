@@ -1,6 +1,6 @@
 #include "../tests/support/LiteralFaceOrder.h"
 #include "BenchScenes.h"
-#include "macro/BlankCanvas.h"
+#include "render/BlankCanvas.h"
 #include "render/KorvanOpsConsts.h"
 #include "scene/Solid3d.h"
 

@@ -5,8 +5,8 @@
 #include "app/MemoryBytes.h"
 #include "app/SolidEdit.h"
 #include "app/frmTolvane.h"
-#include "macro/BlankCanvas.h"
 #include "qt/QtModalHost.h"
+#include "render/BlankCanvas.h"
 #include "scene/Face3d.h"
 
 #include <benchmark/benchmark.h>

@@ -1,9 +1,9 @@
 // libFuzzer entry for macros: arbitrary text is played as a macro in the editor without a
 // screen. A line that does not fit, or is no action, ends the play, as in a replay; anything
 // else that escapes, and every sanitizer report, is a finding.
-#include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
+#include "render/BlankCanvas.h"
 
 #include <array>
 #include <cstddef>

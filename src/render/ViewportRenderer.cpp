@@ -2,9 +2,9 @@
 
 #include "geometry/M3Ops.h"
 #include "geometry/Rounding.h"
+#include "render/BlankCanvas.h"
 #include "render/DepthBuffer.h"
 #include "render/KorvanOpsConsts.h"
-#include "render/NullCanvas.h"
 #include "render/Shading.h"
 #include "scene/AxesXYZ.h"
 #include "scene/FaceOrder.h"
@@ -125,7 +125,7 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
             continue;
         }
         Canvas& canvas = *view.target.canvas;
-        NullCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
+        BlankCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
         Canvas& target = view.painted() ? canvas : static_cast<Canvas&>(nothing);
         if (showGrid) {
             scene.grid->cull(view.ex, view.ey, view.ez);
@@ -162,7 +162,7 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
             continue;
         }
         Canvas& canvas = *view.target.canvas;
-        NullCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
+        BlankCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
         drawRest(view, scene, view.painted() ? canvas : static_cast<Canvas&>(nothing));
     }
     std::erase_if(views,

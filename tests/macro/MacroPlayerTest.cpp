@@ -1,7 +1,7 @@
 #include "macro/MacroPlayer.h"
-#include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
+#include "render/BlankCanvas.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

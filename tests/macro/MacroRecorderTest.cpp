@@ -1,8 +1,8 @@
 #include "macro/MacroRecorder.h"
-#include "macro/BlankCanvas.h"
 #include "macro/HeadlessEditor.h"
 #include "macro/MacroFile.h"
 #include "macro/MacroWriter.h"
+#include "render/BlankCanvas.h"
 #include "support/TestWindow.h"
 
 #include <gtest/gtest.h>

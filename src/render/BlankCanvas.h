@@ -3,9 +3,10 @@
 #include "platform/Canvas.h"
 
 // A canvas without pixels, for running the drawing code where no picture is wanted (the
-// editor played without a screen, benchmarks of the geometry, fuzzing): it has a size,
-// takes the one the window's layout gives it, so that everything that projects onto it and
-// picks from it works as on a real canvas, and draws nothing.
+// editor played without a screen, a redraw of viewports whose pictures are kept, benchmarks
+// of the geometry, fuzzing): it has a size, takes the one the window's layout gives it, so
+// that everything that projects onto it and picks from it works as on a real canvas, and
+// draws nothing. Having no picture, it always has its kept one.
 class BlankCanvas : public Canvas {
 public:
     explicit BlankCanvas(int width = 0, int height = 0) : width_(width), height_(height) {}
@@ -18,6 +19,7 @@ public:
     void clear() override {}
     void refresh() override {}
     void stretchBlitOr(const Bitmap&, int, int, int, int, int, int, int, int) override {}
+    bool restorePicture() override { return true; }
     void move(int, int, int width, int height) override {
         width_ = width;
         height_ = height;
