@@ -329,6 +329,9 @@ void ViewportRenderer::fitLights(View& view, const ViewportScene& scene) const {
         double largest = -1e300;
         for (size_t k = 0; k < scene.solids.size(); ++k) {
             const SolidProjection& seen = view.objects[k];
+            if (seen.culled.empty()) {
+                continue; // no solid, or one without faces
+            }
             const double* squares = facts_[k].lightSquares.data() + 2 * l;
             for (size_t f = 0; f < seen.culled.size(); ++f) {
                 if (seen.culled[f] == 0) {
