@@ -77,6 +77,16 @@ ViewportSet::PictureKey ViewportSet::keyOf(size_t index, const ViewportScene& sc
     return key;
 }
 
+namespace {
+
+// How a redraw treats a viewport whose picture stays: a hidden one is still only projected,
+// a shown one projected and drawn into nothing.
+ViewportPaint kept(ViewportPaint paint) {
+    return paint == ViewportPaint::Project ? ViewportPaint::Project : ViewportPaint::Keep;
+}
+
+} // namespace
+
 void ViewportSet::redrawAll(const ViewportScene& scene,
                             const std::function<void(Canvas&, const ViewSpecs&)>& drawOverlay,
                             bool documentChanged) {
@@ -92,11 +102,8 @@ void ViewportSet::redrawAll(const ViewportScene& scene,
         rendered[i] = again;
         any = any || again;
         kept_[i] = key;
-        targets.push_back(ViewportTarget{picOrtho[i], &records[i],
-                                         again ? key.paint
-                                         : key.paint == ViewportPaint::Project
-                                             ? ViewportPaint::Project
-                                             : ViewportPaint::Keep});
+        targets.push_back(
+            ViewportTarget{picOrtho[i], &records[i], again ? key.paint : kept(key.paint)});
     }
     // A step of a drag renders its viewport alone; the rest waits for the release.
     const bool dragStep =
@@ -128,10 +135,8 @@ void ViewportSet::redrawAll(const ViewportScene& scene,
         } else if (!canvas->restorePicture()) {
             // A canvas that keeps no picture is rendered again, alone: nothing else changed.
             std::vector<ViewportTarget> alone = targets;
-            for (size_t k = 0; k < alone.size(); ++k) {
-                alone[k].paint = alone[k].canvas == canvas                  ? kept_[i]->paint
-                                 : alone[k].paint == ViewportPaint::Project ? ViewportPaint::Project
-                                                                            : ViewportPaint::Keep;
+            for (ViewportTarget& target : alone) {
+                target.paint = target.canvas == canvas ? kept_[i]->paint : kept(target.paint);
             }
             renderer.redraw(alone, scene);
         }
