@@ -1,21 +1,41 @@
 #include "render/DepthBuffer.h"
 
-#include "geometry/PackedColor.h"
-
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstring>
 #include <limits>
+
+namespace {
+
+// Four pixels at a time where the compiler offers vectors of them.
+using Floats = float __attribute__((vector_size(16)));
+using Words = uint32_t __attribute__((vector_size(16)));
+
+// Whether the other buffer's face is nearer than the pixel's: deeper, or as deep with a larger
+// number.
+Words isNearer(Floats otherDepth, Words otherFace, Floats depth, Words face) {
+    return std::bit_cast<Words>(otherDepth > depth) |
+           (std::bit_cast<Words>(otherDepth == depth) & std::bit_cast<Words>(otherFace > face));
+}
+
+} // namespace
 
 void DepthBuffer::reset(int width, int height) {
     picture_.width = std::max(width, 0);
     picture_.height = std::max(height, 0);
-    const auto size = static_cast<size_t>(picture_.width) * static_cast<size_t>(picture_.height);
-    picture_.pixels.assign(size, 0);
+    // Rows are longer than the picture by three pixels and a multiple of four, so that a span's
+    // last four pixels can be read and written back whole without reaching into the next row,
+    // and pictures be merged four pixels at a time.
+    stride_ = (static_cast<size_t>(picture_.width) + 6) / 4 * 4;
+    const size_t size = stride_ * static_cast<size_t>(picture_.height);
+    picture_.pixels.resize(static_cast<size_t>(picture_.width) * picture_.height);
+    faces_.assign(size, 0);
     depth_.assign(size, -std::numeric_limits<float>::infinity());
 }
 
-void DepthBuffer::fill(const std::vector<CanvasPoint>& points, const std::vector<float>& depths,
-                       int32_t color) {
+void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& points,
+                       const std::vector<float>& depths, uint32_t face) {
     if (points.size() < 3 || depths.size() < 9) {
         return;
     }
@@ -36,35 +56,54 @@ void DepthBuffer::fill(const std::vector<CanvasPoint>& points, const std::vector
             c = k == 2 ? depths[k] : std::max(c, static_cast<double>(depths[k]));
         }
     }
-    const PackedColor rgb = PackedColor::split(color);
-    const uint32_t pixel = 0xFF000000u | (static_cast<uint32_t>(rgb.red & 0xFF) << 16) |
-                           (static_cast<uint32_t>(rgb.green & 0xFF) << 8) |
-                           static_cast<uint32_t>(rgb.blue & 0xFF);
-    const int width = picture_.width;
-    filler_.forEachSpan(width, picture_.height, points, [&](int y, int32_t left, int32_t right) {
-        const size_t row = static_cast<size_t>(y) * static_cast<size_t>(width);
-        // In single precision along the row: the depths need only order the faces. Each
-        // pixel's depth is found apart and without a branch, so that pixels do not wait for
-        // each other: faces overlap many times over, and which is nearer changes often.
-        const auto first = static_cast<float>(a * (left + 0.5) + b * (y + 0.5) + c);
-        const auto step = static_cast<float>(a);
-        float* kept = depth_.data() + row + left;
-        uint32_t* pixels = picture_.pixels.data() + row + left;
-        const int32_t count = right - left;
-        for (int32_t i = 0; i < count; ++i) {
-            const float depth = first + step * static_cast<float>(i);
-            const uint32_t nearer = 0u - static_cast<uint32_t>(depth >= kept[i]);
-            kept[i] = std::max(kept[i], depth);
-            pixels[i] = (pixel & nearer) | (pixels[i] & ~nearer);
-        }
-    });
+    const Floats lanes = {0, 1, 2, 3};
+    const Words number = {face, face, face, face};
+    filler.forEachSpan(
+        picture_.width, picture_.height, points, [&](int y, int32_t left, int32_t right) {
+            // In single precision along the row: the depths need only order the faces. Four pixels
+            // at a time, the last four reaching past the span as far as they must, where the pixels
+            // past it keep what they have: faces are narrow, and without a branch per pixel pixels
+            // do not wait for each other where which face is nearer changes often.
+            const auto first = static_cast<float>(a * (left + 0.5) + b * (y + 0.5) + c);
+            const auto step = static_cast<float>(a);
+            const size_t start = static_cast<size_t>(y) * stride_ + static_cast<size_t>(left);
+            float* kept = depth_.data() + start;
+            uint32_t* faces = faces_.data() + start;
+            const auto count = static_cast<float>(right - left);
+            for (int32_t i = 0; i < right - left; i += 4) {
+                const Floats at = lanes + static_cast<float>(i);
+                const Floats depth = first + step * at;
+                Floats near;
+                Words owner;
+                std::memcpy(&near, kept + i, sizeof near);
+                std::memcpy(&owner, faces + i, sizeof owner);
+                const Words nearer =
+                    std::bit_cast<Words>(depth >= near) & std::bit_cast<Words>(at < count);
+                near = std::bit_cast<Floats>((std::bit_cast<Words>(depth) & nearer) |
+                                             (std::bit_cast<Words>(near) & ~nearer));
+                owner = (number & nearer) | (owner & ~nearer);
+                std::memcpy(kept + i, &near, sizeof near);
+                std::memcpy(faces + i, &owner, sizeof owner);
+            }
+        });
 }
 
-void DepthBuffer::takeNearer(const DepthBuffer& other) {
-    const size_t size = std::min(depth_.size(), other.depth_.size());
-    for (size_t i = 0; i < size; ++i) {
-        const uint32_t nearer = 0u - static_cast<uint32_t>(other.depth_[i] >= depth_[i]);
-        depth_[i] = std::max(depth_[i], other.depth_[i]);
-        picture_.pixels[i] = (other.picture_.pixels[i] & nearer) | (picture_.pixels[i] & ~nearer);
+void DepthBuffer::takeNearer(const DepthBuffer& other, int top, int bottom) {
+    const size_t end = static_cast<size_t>(std::min(bottom, picture_.height)) * stride_;
+    for (size_t i = static_cast<size_t>(std::max(top, 0)) * stride_; i + 4 <= end; i += 4) {
+        Floats near;
+        Words owner;
+        Floats otherNear;
+        Words otherOwner;
+        std::memcpy(&near, depth_.data() + i, sizeof near);
+        std::memcpy(&owner, faces_.data() + i, sizeof owner);
+        std::memcpy(&otherNear, other.depth_.data() + i, sizeof otherNear);
+        std::memcpy(&otherOwner, other.faces_.data() + i, sizeof otherOwner);
+        const Words taken = isNearer(otherNear, otherOwner, near, owner);
+        near = std::bit_cast<Floats>((std::bit_cast<Words>(otherNear) & taken) |
+                                     (std::bit_cast<Words>(near) & ~taken));
+        owner = (otherOwner & taken) | (owner & ~taken);
+        std::memcpy(depth_.data() + i, &near, sizeof near);
+        std::memcpy(faces_.data() + i, &owner, sizeof owner);
     }
 }

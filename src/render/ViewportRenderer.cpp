@@ -1,6 +1,7 @@
 #include "render/ViewportRenderer.h"
 
 #include "geometry/M3Ops.h"
+#include "geometry/PackedColor.h"
 #include "geometry/Rounding.h"
 #include "render/BlankCanvas.h"
 #include "render/DepthBuffer.h"
@@ -105,13 +106,12 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
         view.depthSorter = depthSorters_[i].get();
         view.depthBuffer = depthBuffers_[i].get();
     }
-    gatherNormals(scene);
+    gatherFacts(scene);
     onBothCores(views.size(), [&](size_t i) {
         if (views[i].target.paint != ViewportPaint::Untouched) {
             see(views[i], scene);
         }
     });
-    gatherLightSquares(scene, views);
     onBothCores(views.size(), [&](size_t i) {
         if (views[i].fitted()) {
             fitLights(views[i], scene);
@@ -153,7 +153,7 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
         }
     }
     if (painted.size() == 1 && depthBuffered(*painted.front())) {
-        paintDepthOnBothCores(*painted.front(), scene);
+        paintDepth(*painted.front(), scene, 2);
     } else {
         onBothCores(painted.size(), [&](size_t i) { paintObjects(*painted[i], scene); });
     }
@@ -190,6 +190,7 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
         seen.culled.assign(faces.size(), 0);
         seen.points.resize(records);
         seen.reached.assign(records, 0);
+        seen.lit.assign(records, 0);
         const float* normal = facts_[k].normals.data();
         for (size_t f = 0; f < faces.size(); ++f, normal += 3) {
             const Face3d& face = *faces[f];
@@ -228,6 +229,12 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
                     }
                 }
                 faceMax = seen.culled[f] != 0 ? 0 : faceMax;
+                if (seen.culled[f] == 0 && face.NumPts >= 3 &&
+                    face.getSolidContainer() != nullptr) {
+                    for (const int32_t index : face.getIndices()) {
+                        seen.lit[static_cast<size_t>(index)] = 1;
+                    }
+                }
             }
             seen.zmax = std::max(seen.zmax, faceMax);
         }
@@ -251,66 +258,46 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
     }
 }
 
-template <class Work> void ViewportRenderer::inParts(const ViewportScene& scene, Work work) {
-    // In parts of about equal size, so that one large object keeps both cores busy.
+void ViewportRenderer::gatherFacts(const ViewportScene& scene) {
+    // In parts of about equal size, so that one large object keeps both cores busy: each part
+    // is of one object, its faces' normals or its points' light distances.
     struct Part {
-        size_t object, first, end;
+        size_t object;
+        bool points;
+        size_t first, end;
     };
     std::vector<Part> parts;
     constexpr size_t partSize = 8192;
+    const size_t lightCount = scene.light_sources.size();
+    facts_.assign(scene.solids.size(), {});
     for (size_t k = 0; k < scene.solids.size(); ++k) {
         const auto solid = scene.solids[k]->getSolid();
-        const size_t count = solid ? solid->faces.size() : 0;
-        for (size_t first = 0; first < count; first += partSize) {
-            parts.push_back(Part{k, first, std::min(first + partSize, count)});
+        const size_t faces = solid ? solid->faces.size() : 0;
+        const size_t records = solid ? static_cast<size_t>(solid->getPointUpperBound()) + 1 : 0;
+        facts_[k].normals.resize(faces * 3);
+        facts_[k].lightSquares.resize(records * lightCount);
+        for (size_t first = 0; first < faces; first += partSize) {
+            parts.push_back(Part{k, false, first, std::min(first + partSize, faces)});
+        }
+        for (size_t first = 0; first < records && lightCount > 0; first += partSize) {
+            parts.push_back(Part{k, true, first, std::min(first + partSize, records)});
         }
     }
     onBothCores(parts.size(), [&](size_t p) {
         const Part& part = parts[p];
-        const FaceList& faces = scene.solids[part.object]->getSolid()->faces;
-        for (size_t f = part.first; f < part.end; ++f) {
-            work(part.object, f, *faces[f]);
-        }
-    });
-}
-
-void ViewportRenderer::gatherNormals(const ViewportScene& scene) {
-    facts_.assign(scene.solids.size(), {});
-    for (size_t k = 0; k < scene.solids.size(); ++k) {
-        const auto solid = scene.solids[k]->getSolid();
-        facts_[k].normals.resize(solid ? solid->faces.size() * 3 : 0);
-        facts_[k].unitNormals.resize(facts_[k].normals.size());
-    }
-    inParts(scene, [&](size_t k, size_t f, const Face3d& face) {
-        float* normal = facts_[k].normals.data() + f * 3;
-        face.NormalVector(normal[0], normal[1], normal[2]);
-        float* unit = facts_[k].unitNormals.data() + f * 3;
-        std::copy(normal, normal + 3, unit);
-        Face3d::toUnitLength(unit[0], unit[1], unit[2]);
-    });
-}
-
-void ViewportRenderer::gatherLightSquares(const ViewportScene& scene,
-                                          const std::vector<View>& views) {
-    const size_t lightCount = scene.light_sources.size();
-    for (size_t k = 0; k < scene.solids.size(); ++k) {
-        facts_[k].lightSquares.resize(facts_[k].normals.size() / 3 * lightCount * 2);
-    }
-    inParts(scene, [&](size_t k, size_t f, const Face3d& face) {
-        // Only the faces some fitted viewport keeps are fitted to; a face of fewer than
-        // three corners never is.
-        const bool fitted = face.NumPts >= 3 && face.getSolidContainer() != nullptr &&
-                            std::any_of(views.begin(), views.end(), [&](const View& view) {
-                                return view.fitted() && view.objects[k].culled[f] == 0;
-                            });
-        double* squares = facts_[k].lightSquares.data() + f * lightCount * 2;
-        for (size_t l = 0; l < lightCount; ++l) {
-            const LightSource& light = *scene.light_sources[l];
-            squares[2 * l] = 1e300;
-            squares[2 * l + 1] = -1e300;
-            if (fitted) {
-                face.squaredLightDistances(light.x, light.y, light.z, squares[2 * l],
-                                           squares[2 * l + 1]);
+        const Solid3d& solid = *scene.solids[part.object]->getSolid();
+        ObjectFacts& facts = facts_[part.object];
+        for (size_t i = part.first; i < part.end; ++i) {
+            if (!part.points) {
+                float* normal = facts.normals.data() + i * 3;
+                solid.faces[i]->NormalVector(normal[0], normal[1], normal[2]);
+                continue;
+            }
+            const Point4& c = solid.getPointRecord(static_cast<int32_t>(i)).coord;
+            double* squares = facts.lightSquares.data() + i * lightCount;
+            for (size_t l = 0; l < lightCount; ++l) {
+                const LightSource& light = *scene.light_sources[l];
+                squares[l] = Face3d::squaredDistance(c, light.x, light.y, light.z);
             }
         }
     });
@@ -319,24 +306,21 @@ void ViewportRenderer::gatherLightSquares(const ViewportScene& scene,
 void ViewportRenderer::fitLights(View& view, const ViewportScene& scene) const {
     // Attenuation 1 at the nearest and 0.5 at the farthest corner of the faces kept. A root,
     // and its rounding to single precision, never reverse an order, so the nearest of the
-    // faces' rounded roots is the rounded root of the nearest square: one root per light.
-    // (A face whose corners are all undefined leaves 1e300 and -1e300, whose roots the
-    // fitting of single faces passes over too.)
+    // faces' rounded roots is the rounded root of the nearest square: one root per light, of
+    // the nearest of the squares of the faces' corners. (Where these are all undefined, the
+    // fitting of single faces passes over them too.)
     const size_t lightCount = scene.light_sources.size();
     view.lights.clear();
     for (size_t l = 0; l < lightCount; ++l) {
         double smallest = 1e300;
         double largest = -1e300;
         for (size_t k = 0; k < scene.solids.size(); ++k) {
-            const SolidProjection& seen = view.objects[k];
-            if (seen.culled.empty()) {
-                continue; // no solid, or one without faces
-            }
-            const double* squares = facts_[k].lightSquares.data() + 2 * l;
-            for (size_t f = 0; f < seen.culled.size(); ++f) {
-                if (seen.culled[f] == 0) {
-                    smallest = std::min(smallest, squares[f * lightCount * 2]);
-                    largest = std::max(largest, squares[f * lightCount * 2 + 1]);
+            const std::vector<uint8_t>& lit = view.objects[k].lit;
+            const double* squares = facts_[k].lightSquares.data() + l;
+            for (size_t i = 0; i < lit.size(); ++i) {
+                if (lit[i] != 0) {
+                    smallest = std::min(smallest, squares[i * lightCount]);
+                    largest = std::max(largest, squares[i * lightCount]);
                 }
             }
         }
@@ -356,60 +340,24 @@ bool ViewportRenderer::depthBuffered(const View& view) {
 }
 
 void ViewportRenderer::paintObjects(View& view, const ViewportScene& scene) const {
-    Canvas& canvas = *view.target.canvas;
-    if (!depthBuffered(view)) {
-        shadeFaces(
-            view, scene, 0, 1,
-            [&](const std::vector<CanvasPoint>& points, const std::vector<float>&, int32_t color) {
-                Face3d::paintPolygon(canvas, points, color, view.target.record->wireFrame);
-            });
+    if (depthBuffered(view)) {
+        paintDepth(view, scene, 1);
         return;
     }
-    view.depthBuffer->reset(canvas.scaleWidth(), canvas.scaleHeight());
-    shadeFaces(view, scene, 0, 1, [&](const auto& points, const auto& corners, int32_t color) {
-        view.depthBuffer->fill(points, corners, color);
-    });
-    canvas.overlayPixels(view.depthBuffer->picture());
-}
-
-void ViewportRenderer::paintDepthOnBothCores(View& view, const ViewportScene& scene) {
-    // Every other face into a second buffer, merged after: a drag paints one viewport alone.
-    Canvas& canvas = *view.target.canvas;
-    DepthBuffer& other = *depthBuffers_.back();
-    view.depthBuffer->reset(canvas.scaleWidth(), canvas.scaleHeight());
-    other.reset(canvas.scaleWidth(), canvas.scaleHeight());
-    onBothCores(2, [&](size_t part) {
-        DepthBuffer& buffer = part == 0 ? *view.depthBuffer : other;
-        shadeFaces(view, scene, part, 2,
-                   [&](const auto& points, const auto& corners, int32_t color) {
-                       buffer.fill(points, corners, color);
-                   });
-    });
-    view.depthBuffer->takeNearer(other);
-    canvas.overlayPixels(view.depthBuffer->picture());
-}
-
-template <class Paint>
-void ViewportRenderer::shadeFaces(const View& view, const ViewportScene& scene, size_t part,
-                                  size_t parts, Paint paint) const {
     Canvas& canvas = *view.target.canvas;
     const ViewSpecs& record = *view.target.record;
-    const bool depth = depthBuffered(view);
     std::vector<CanvasPoint> points;
     std::vector<float> corners;
     std::vector<uint32_t> listOrder;
-    bool painted = false;
     for (const size_t place : view.order) {
-        const auto& object = scene.solids[place];
         const SolidProjection& seen = view.objects[place];
-        const auto solid = object->getSolid();
+        const auto solid = scene.solids[place]->getSolid();
         if (!solid) {
             continue;
         }
-        painted = true;
         const FaceList& faces = solid->faces;
         std::vector<uint32_t> sorted;
-        const bool ordered = record.HideSurfaces && !solid->IsConvex && !depth;
+        const bool ordered = record.HideSurfaces && !solid->IsConvex;
         if (ordered) {
             sorted = FaceOrder::order(faces, seen);
         } else {
@@ -418,53 +366,115 @@ void ViewportRenderer::shadeFaces(const View& view, const ViewportScene& scene, 
                 listOrder[f] = f;
             }
         }
-        const bool objectSelected = object->isSelected();
-        if (!depth) {
-            canvas.setDrawStyle(DrawInvisible);
-        }
+        canvas.setDrawStyle(DrawInvisible);
         for (const uint32_t f : ordered ? sorted : listOrder) {
-            const Face3d& face = *faces[f];
-            if (seen.culled[f] != 0 || face.getSolidContainer() == nullptr || face.NumPts < 3 ||
-                f % parts != part) {
-                continue;
+            if (project(view, seen, *faces[f], f, points, corners)) {
+                Face3d::paintPolygon(canvas, points, shade(view, scene, place, f),
+                                     record.wireFrame);
             }
-            points.clear();
-            corners.clear();
-            for (const int32_t index : face.getIndices()) {
-                const Point4& t = seen.points[static_cast<size_t>(index)];
-                points.push_back({Rounding::toInt32(t.x), Rounding::toInt32(t.y)});
-                corners.insert(corners.end(), {t.x, t.y, t.z});
-            }
-            if (Face3d::allOffCanvas(points, canvas)) {
-                continue;
-            }
-            const float* unit = facts_[place].unitNormals.data() + size_t{f} * 3;
-            const ShadedSurface surface = face.shadedSurface(unit[0], unit[1], unit[2]);
-            const EyePoint eye{view.ex, view.ey, view.ez};
-            int32_t color = 0;
-            if (face.isSelected()) {
-                color =
-                    Shading::shadeForcedColor(surface, view.lights, ambientLight, eye, false,
-                                              selectedFaceRed, selectedFaceGreen, selectedFaceBlue);
-            } else if (objectSelected) {
-                color = Shading::shadeForcedColor(surface, view.lights, ambientLight, eye, false,
-                                                  selectedObjectRed, selectedObjectGreen,
-                                                  selectedObjectBlue);
-            } else {
-                color = Shading::shadeColor(surface, view.lights, eye, false);
-            }
-            paint(points, corners, color);
         }
-        if (!depth) {
-            canvas.setDrawStyle(DrawSolid);
-            canvas.setFillStyle(FillSolid);
-        }
-    }
-    // The canvas is left with the styles a painted object leaves.
-    if (depth && painted && part == 0) {
         canvas.setDrawStyle(DrawSolid);
         canvas.setFillStyle(FillSolid);
     }
+}
+
+void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t cores) const {
+    // Faces are numbered from 1 through all objects' lists, each object from the number after
+    // the last of the one before, and filled in that order: no order of the objects is needed.
+    std::vector<uint32_t> firsts(scene.solids.size() + 1, 1);
+    for (size_t k = 0; k < scene.solids.size(); ++k) {
+        const auto solid = scene.solids[k]->getSolid();
+        firsts[k + 1] = firsts[k] + static_cast<uint32_t>(solid ? solid->faces.size() : 0);
+    }
+    Canvas& canvas = *view.target.canvas;
+    DepthBuffer& buffer = *view.depthBuffer;
+    // Each core fills every other face into a buffer of its own, then takes a band of rows to
+    // merge, every other face to shade and a band again to paint.
+    onBothCores(cores, [&](size_t part) {
+        DepthBuffer& own = part == 0 ? buffer : *depthBuffers_.back();
+        own.reset(canvas.scaleWidth(), canvas.scaleHeight());
+        ScanlineFiller filler;
+        std::vector<CanvasPoint> points;
+        std::vector<float> corners;
+        for (size_t place = 0; place < scene.solids.size(); ++place) {
+            const auto solid = scene.solids[place]->getSolid();
+            if (!solid) {
+                continue;
+            }
+            const FaceList& faces = solid->faces;
+            for (size_t f = part; f < faces.size(); f += cores) {
+                if (project(view, view.objects[place], *faces[f], f, points, corners)) {
+                    own.fill(filler, points, corners, firsts[place] + static_cast<uint32_t>(f));
+                }
+            }
+        }
+    });
+    const auto rows = [&](size_t band) {
+        const auto height = static_cast<size_t>(buffer.height());
+        return std::pair{static_cast<int>(height * band / cores),
+                         static_cast<int>(height * (band + 1) / cores)};
+    };
+    onBothCores(cores, [&](size_t band) {
+        const auto [top, bottom] = rows(band);
+        if (cores > 1) {
+            buffer.takeNearer(*depthBuffers_.back(), top, bottom);
+        }
+        std::vector<uint32_t> colors(firsts.back(), 0);
+        buffer.paint(colors, top, bottom, [&](uint32_t face) {
+            const size_t k =
+                static_cast<size_t>(std::upper_bound(firsts.begin(), firsts.end(), face) -
+                                    firsts.begin()) -
+                1;
+            const PackedColor rgb = PackedColor::split(shade(view, scene, k, face - firsts[k]));
+            return (static_cast<uint32_t>(rgb.red & 0xFF) << 16) |
+                   (static_cast<uint32_t>(rgb.green & 0xFF) << 8) |
+                   static_cast<uint32_t>(rgb.blue & 0xFF);
+        });
+    });
+    canvas.overlayPixels(buffer.picture());
+    // The canvas is left with the styles a painted object leaves.
+    if (std::any_of(view.order.begin(), view.order.end(),
+                    [&](size_t place) { return scene.solids[place]->getSolid() != nullptr; })) {
+        canvas.setDrawStyle(DrawSolid);
+        canvas.setFillStyle(FillSolid);
+    }
+}
+
+bool ViewportRenderer::project(const View& view, const SolidProjection& seen, const Face3d& face,
+                               size_t f, std::vector<CanvasPoint>& points,
+                               std::vector<float>& corners) {
+    if (seen.culled[f] != 0 || face.getSolidContainer() == nullptr || face.NumPts < 3) {
+        return false;
+    }
+    points.clear();
+    corners.clear();
+    for (const int32_t index : face.getIndices()) {
+        const Point4& t = seen.points[static_cast<size_t>(index)];
+        points.push_back({Rounding::toInt32(t.x), Rounding::toInt32(t.y)});
+        corners.insert(corners.end(), {t.x, t.y, t.z});
+    }
+    return !Face3d::allOffCanvas(points, *view.target.canvas);
+}
+
+int32_t ViewportRenderer::shade(const View& view, const ViewportScene& scene, size_t place,
+                                size_t f) const {
+    const auto& object = scene.solids[place];
+    const Face3d& face = *object->getSolid()->faces[f];
+    float unit[3];
+    std::copy_n(facts_[place].normals.data() + f * 3, 3, unit);
+    Face3d::toUnitLength(unit[0], unit[1], unit[2]);
+    const ShadedSurface surface = face.shadedSurface(unit[0], unit[1], unit[2]);
+    const EyePoint eye{view.ex, view.ey, view.ez};
+    if (face.isSelected()) {
+        return Shading::shadeForcedColor(surface, view.lights, ambientLight, eye, false,
+                                         selectedFaceRed, selectedFaceGreen, selectedFaceBlue);
+    }
+    if (object->isSelected()) {
+        return Shading::shadeForcedColor(surface, view.lights, ambientLight, eye, false,
+                                         selectedObjectRed, selectedObjectGreen,
+                                         selectedObjectBlue);
+    }
+    return Shading::shadeColor(surface, view.lights, eye, false);
 }
 
 void ViewportRenderer::drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Canvas.h"
 #include "render/RadixSort.h"
 #include "render/ViewSpecs.h"
 #include "render/ViewportScene.h"
@@ -9,6 +10,8 @@
 
 class Canvas;
 class DepthBuffer;
+class Face3d;
+struct SolidProjection;
 class Transformed3d;
 
 // How a redraw treats one viewport.
@@ -66,29 +69,28 @@ private:
     void see(View& view, const ViewportScene& scene) const;
     void fitLights(View& view, const ViewportScene& scene) const;
     static bool depthBuffered(const View& view);
+    // In the painter's face order, or with the depth buffer on as many cores as given (one or
+    // two).
     void paintObjects(View& view, const ViewportScene& scene) const;
-    void paintDepthOnBothCores(View& view, const ViewportScene& scene);
-    // Calls paint(points, corners, color) for each face the view shows, in painting order,
-    // every parts-th one from part on.
-    template <class Paint>
-    void shadeFaces(const View& view, const ViewportScene& scene, size_t part, size_t parts,
-                    Paint paint) const;
+    void paintDepth(View& view, const ViewportScene& scene, size_t cores) const;
+    // The colour of face f of the object at place in the scene's list, as the view shows it.
+    int32_t shade(const View& view, const ViewportScene& scene, size_t place, size_t f) const;
+    // Sets points to the corners of face f of an object as the view projects them, rounded,
+    // and corners to them unrounded (x, y and depth); false when the view does not show it.
+    static bool project(const View& view, const SolidProjection& seen, const Face3d& face, size_t f,
+                        std::vector<CanvasPoint>& points, std::vector<float>& corners);
     void drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const;
     void store(const std::vector<View>& views, const ViewportScene& scene) const;
 
     // Per viewport, kept so that the object order's and the depth buffer's memory is reused.
     std::vector<std::unique_ptr<RadixSort<Transformed3d>>> depthSorters_;
     std::vector<std::unique_ptr<DepthBuffer>> depthBuffers_;
-    // What every viewport reads of each face, per object, computed once per redraw: its
-    // normal and unit normal (three values each) and the squares of its nearest and farthest
-    // corner's distance from each light (two per light).
-    struct FaceFacts {
+    // What every viewport reads, per object, computed once per redraw: each face's normal
+    // (three values) and each point record's squared distance from each light.
+    struct ObjectFacts {
         std::vector<float> normals;
-        std::vector<float> unitNormals;
         std::vector<double> lightSquares;
     };
-    template <class Work> static void inParts(const ViewportScene& scene, Work work);
-    void gatherNormals(const ViewportScene& scene);
-    void gatherLightSquares(const ViewportScene& scene, const std::vector<View>& views);
-    std::vector<FaceFacts> facts_;
+    void gatherFacts(const ViewportScene& scene);
+    std::vector<ObjectFacts> facts_;
 };

@@ -143,22 +143,13 @@ void Face3d::getRMinRMax(float light_x, float light_y, float light_z, float& Rmi
     }
     double smallest = 1e300;
     double largest = -1e300;
-    squaredLightDistances(light_x, light_y, light_z, smallest, largest);
-    Rmin = static_cast<float>(std::sqrt(smallest));
-    Rmax = static_cast<float>(std::sqrt(largest));
-}
-
-void Face3d::squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
-                                   double& largest) const {
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        const Point4& c = coordOf(corner);
-        const double dx = c.x - light_x;
-        const double dy = c.y - light_y;
-        const double dz = c.z - light_z;
-        const double squared = dx * dx + dy * dy + dz * dz;
+        const double squared = squaredDistance(coordOf(corner), light_x, light_y, light_z);
         smallest = std::min(smallest, squared);
         largest = std::max(largest, squared);
     }
+    Rmin = static_cast<float>(std::sqrt(smallest));
+    Rmax = static_cast<float>(std::sqrt(largest));
 }
 
 float Face3d::zmax() const {

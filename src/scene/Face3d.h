@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geometry/Matrix4.h"
+#include "geometry/Point4.h"
 #include "render/LightSource.h"
 #include "render/Shading.h"
 #include "scene/CornerIndices.h"
@@ -67,10 +68,15 @@ public:
     // Scales a vector to unit length as UnitNormalVector does; a zero vector stays.
     static void toUnitLength(float& x, float& y, float& z);
     void getRMinRMax(float light_x, float light_y, float light_z, float& Rmin, float& Rmax) const;
-    // Lowers smallest and raises largest to the squares of the corners' distances from the
-    // light, culled or not, as getRMinRMax measures them before taking their roots.
-    void squaredLightDistances(float light_x, float light_y, float light_z, double& smallest,
-                               double& largest) const;
+    // The square of a corner's distance from a light, as getRMinRMax measures it before
+    // taking the root.
+    static double squaredDistance(const Point4& corner, float light_x, float light_y,
+                                  float light_z) {
+        const double dx = corner.x - light_x;
+        const double dy = corner.y - light_y;
+        const double dz = corner.z - light_z;
+        return dx * dx + dy * dy + dz * dz;
+    }
     float zmax() const;
 
     // Transformations through the solid's cache: a point shared by several faces is

@@ -201,3 +201,30 @@ TEST(ViewportPictures, KeptAndParallelPicturesMatchTheLiteralRedrawOverRandomSes
         }
     }
 }
+
+TEST(ViewportPictures, DepthBufferedPicturesAgreeWithTheExactOnesAndOnOneOrBothCores) {
+    // A viewport alone is painted on both cores, two at once one each: the same picture, and
+    // away from the faces' edges that of the painter's order.
+    SceneDocument document = makeScene();
+    document.solids[1]->setSelected(true);
+    ViewSpecs record;
+    KorvanOpsConsts::setOrthoView(KorvanOpsConsts::viewIsometric, record);
+    ViewportRenderer renderer;
+    QtCanvas exact(240, 180);
+    QtCanvas alone(240, 180);
+    QtCanvas first(240, 180);
+    QtCanvas second(240, 180);
+    renderer.redrawViewport(exact, record, document.scene());
+    renderer.redraw({{&alone, &record, ViewportPaint::Depth}}, document.scene());
+    renderer.redraw(
+        {{&first, &record, ViewportPaint::Depth}, {&second, &record, ViewportPaint::Depth}},
+        document.scene());
+    EXPECT_EQ(alone.image(), first.image());
+    int differences = 0;
+    for (int y = 0; y < 180; ++y) {
+        for (int x = 0; x < 240; ++x) {
+            differences += exact.image().pixel(x, y) != alone.image().pixel(x, y);
+        }
+    }
+    EXPECT_LT(differences, 240 * 180 / 50);
+}
