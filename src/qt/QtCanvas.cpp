@@ -156,6 +156,12 @@ int QtCanvas::textHeight() const {
 }
 
 void QtCanvas::clear() {
+    if (!image_.isDetached()) {
+        // A kept picture shares the pixels: a new picture, rather than a copy to cover.
+        endPainting();
+        image_ = blankImage(image_.width(), image_.height(), backColor());
+        return;
+    }
     image_.fill(toQColor(backColor()));
 }
 

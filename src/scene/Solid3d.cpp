@@ -210,10 +210,14 @@ void Solid3d::SetZMax() {
 }
 
 void Solid3d::storeProjection(const SolidProjection& seen, bool wholly) {
-    for (size_t i = 1; i < seen.reached.size(); ++i) {
-        if (seen.reached[i] != 0) {
-            pointForTransform(static_cast<int32_t>(i)).trans = seen.points[i];
-        }
+    // Storage is made only for a point reached; without storage only record 1 can be.
+    if (seen.reached.size() > 1 && seen.reached[1] != 0) {
+        makeStorage();
+    }
+    // Without a branch: reached and passed-over points alternate.
+    for (size_t i = 1; i < std::min(seen.reached.size(), points_.size()); ++i) {
+        const Point4& from = seen.reached[i] != 0 ? seen.points[i] : points_[i].trans;
+        points_[i].trans = from;
     }
     if (!wholly) {
         return;
