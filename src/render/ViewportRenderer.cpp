@@ -191,17 +191,22 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
         seen.points.resize(records);
         seen.reached.assign(records, 0);
         seen.lit.assign(records, 0);
+        // Each face kept has its points projected, is clipped at the eye, and counts to the
+        // largest depth of the faces kept (a culled face counts as depth 0).
+        seen.zmax = -1e30f;
         const float* normal = facts_[k].normals.data();
         for (size_t f = 0; f < faces.size(); ++f, normal += 3) {
             const Face3d& face = *faces[f];
             if (cullBackFaces &&
                 face.facesAway(normal[0], normal[1], normal[2], view.ex, view.ey, view.ez)) {
                 seen.culled[f] = 1;
+                seen.zmax = std::max(seen.zmax, 0.0f);
                 continue;
             }
             if (face.getSolidContainer() == nullptr) {
-                continue;
+                continue; // depth -1e30
             }
+            float faceMax = -1e30f;
             for (const int32_t index : face.getIndices()) {
                 const auto i = static_cast<size_t>(index);
                 if (seen.reached[i] == 0) {
@@ -209,31 +214,15 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
                                           seen.points[i]);
                     seen.reached[i] = 1;
                 }
+                const float z = seen.points[i].z;
+                seen.culled[f] |= z >= record.EyeR ? 1 : 0;
+                faceMax = std::max(faceMax, z);
             }
-        }
-        // Clipping at the eye, and the largest depth of the faces kept (a culled face counts
-        // as depth 0).
-        seen.zmax = -1e30f;
-        for (size_t f = 0; f < faces.size(); ++f) {
-            const Face3d& face = *faces[f];
-            float faceMax = 0;
-            if (seen.culled[f] == 0) {
-                faceMax = -1e30f;
-                if (face.getSolidContainer() != nullptr) {
-                    for (const int32_t index : face.getIndices()) {
-                        const float z = seen.points[static_cast<size_t>(index)].z;
-                        if (z >= record.EyeR) {
-                            seen.culled[f] = 1;
-                        }
-                        faceMax = std::max(faceMax, z);
-                    }
-                }
-                faceMax = seen.culled[f] != 0 ? 0 : faceMax;
-                if (seen.culled[f] == 0 && face.NumPts >= 3 &&
-                    face.getSolidContainer() != nullptr) {
-                    for (const int32_t index : face.getIndices()) {
-                        seen.lit[static_cast<size_t>(index)] = 1;
-                    }
+            if (seen.culled[f] != 0) {
+                faceMax = 0;
+            } else if (face.NumPts >= 3) {
+                for (const int32_t index : face.getIndices()) {
+                    seen.lit[static_cast<size_t>(index)] = 1;
                 }
             }
             seen.zmax = std::max(seen.zmax, faceMax);
