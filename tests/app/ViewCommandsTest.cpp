@@ -3,24 +3,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(ViewCommands, BarItemsSetEveryRecordAndRedrawPopupItemsTheRightClickedOne) {
-    TestWindow w;
-    w.canvases[3].forget();
-    w.choose({"&View", "&Projection Type", "P&arallel"});
-    for (int number = 1; number <= 4; ++number) {
-        EXPECT_EQ(w.form.getViewports().viewSpecs(number).ProjectionType, 0) << number;
-    }
-    EXPECT_FALSE(w.canvases[3].calls().empty());
-
-    // A pop-up's projection acts on the right-clicked viewport: frmTolvaneView's test.
-    w.popup(3, {"Se&t View", "&Top"});
-    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyeTheta,
-              w.form.getViewports().viewSpecs(1).EyeTheta);
-    EXPECT_EQ(w.form.getViewports().viewSpecs(4).EyePhi, w.form.getViewports().viewSpecs(1).EyePhi);
-    EXPECT_NE(w.form.getViewports().viewSpecs(3).EyeTheta,
-              w.form.getViewports().viewSpecs(1).EyeTheta);
-}
-
 TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedrawShows) {
     TestWindow w;
     MainMenu& menus = w.form.getMenus();
@@ -29,10 +11,16 @@ TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedr
     EXPECT_TRUE(menus.item("mnuBackfaceRemoval").isChecked());
     EXPECT_FALSE(w.form.getViewports().viewSpecs(2).HideSurfaces);
     EXPECT_TRUE(w.form.getViewports().viewSpecs(3).HideSurfaces);
+    const ViewportSet& views = w.form.getViewports();
+    w.popup(3, {"Se&t View", "&Top"});
+    EXPECT_EQ(std::pair(views.viewSpecs(4).EyeTheta, views.viewSpecs(4).EyePhi),
+              std::pair(views.viewSpecs(1).EyeTheta, views.viewSpecs(1).EyePhi));
 
-    // The bar writes its own new state, off, to every record; then on again.
+    // The bar writes its own new state, off, to every record, and redraws; then on again.
+    w.canvases[3].forget();
     w.choose({"&View", "&Display", "&Backface Removal"});
     EXPECT_FALSE(w.form.getViewports().viewSpecs(3).HideSurfaces);
+    EXPECT_FALSE(w.canvases[3].calls().empty());
     w.choose({"&View", "&Display", "&Backface Removal"});
     EXPECT_TRUE(w.form.getViewports().viewSpecs(2).HideSurfaces);
     EXPECT_FALSE(menus.item("mnuPopupBackfaceRemoval").isChecked());
@@ -49,19 +37,4 @@ TEST(ViewCommands, BarAndPopupKeepTheirOwnCheckMarksAndGridAndAxesAreWhatTheRedr
         w.choose({"&View", "&Display", caption}); // on again
         EXPECT_EQ(w.canvases[3].calls().size(), before);
     }
-}
-
-TEST(ModeCommands, BarAndPopupInstallTheChosenMode) {
-    TestWindow w;
-    const std::pair<std::vector<std::string>, MousePointer> cases[] = {
-        {{"&View", "&Movement", "&Zoom"}, MousePointer::SizeVertical},
-        {{"&View", "&Movement", "&Scoll"}, MousePointer::SizeDiagonal},
-        {{"&Selectors", "&Face Selector"}, MousePointer::Crosshair},
-        {{"&View", "&Movement", "&Rotate"}, MousePointer::SizeAll}};
-    for (const auto& [path, pointer] : cases) {
-        w.choose(path);
-        EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), pointer) << path.back();
-    }
-    w.popup(3, {"&Movement", "&Zoom"});
-    EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::SizeVertical);
 }

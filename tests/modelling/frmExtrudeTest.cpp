@@ -189,6 +189,8 @@ TEST_F(frmExtrudeTest, TheListButtonsAddRemoveAndMoveWithWrapAround) {
     // Lines picked (-2: none picked), buttons pressed, the list and its selection after.
     using Lines = std::vector<std::string>;
     form.List1.items = {"A", "B", "C"};
+    EXPECT_THROW(form.pickListLine("List1", 3), std::invalid_argument);
+    EXPECT_THROW(form.press("List1"), std::invalid_argument); // a list is no button
     const std::tuple<int, const char*, Lines, int> steps[] = {
         {-2, "cmdMoveUpTrans", {"A", "B", "C"}, -1},  {0, "cmdMoveUpTrans", {"B", "C", "A"}, 2},
         {-2, "cmdMoveDownTrans", {"A", "B", "C"}, 0}, {-2, "cmdMoveDownTrans", {"B", "A", "C"}, 1},

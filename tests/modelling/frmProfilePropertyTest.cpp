@@ -3,6 +3,7 @@
 #include "geometry/CPoint3D.h"
 #include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
+#include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
 
@@ -11,23 +12,10 @@ namespace {
 using User = ScriptedModalHost;
 using Names = std::vector<std::string>;
 
-std::shared_ptr<CPoint3D> pointAt(float x, float y, float z) {
-    auto point = std::make_shared<CPoint3D>();
-    point->setRecord({Point4{x, y, z, 1}, {}, {}});
-    return point;
-}
-
-std::shared_ptr<Profile> profileOf(const CPointList& points) {
-    auto profile = std::make_shared<Profile>();
-    for (const auto& point : points) {
-        profile->addCPoint(point);
-    }
-    return profile;
-}
-
 struct frmProfilePropertyOnABC : testing::Test {
-    std::shared_ptr<CPoint3D> a = pointAt(1, 0, 3), b = pointAt(2, 0, 0), c = pointAt(3, 0, 0);
-    std::shared_ptr<Profile> profile = profileOf({a, b, c});
+    std::shared_ptr<Profile> profile = makeProfile({{1, 0, 3, 1}, {2, 0, 0, 1}, {3, 0, 0, 1}});
+    std::shared_ptr<CPoint3D> a = profile->getCPoint(1), b = profile->getCPoint(2),
+                              c = profile->getCPoint(3);
     ScriptedPrompts prompts;
     ScriptedModalHost host;
     frmProfileProperty dialog;
@@ -106,8 +94,8 @@ TEST_F(frmProfilePropertyOnABC, ModifyChangesTheSharedPointAtOnceEvenWhenCancell
 
 TEST(frmProfileProperty, AcceptWritesTheListSwitchedAndVisibility) {
     ScriptedModalHost host;
-    const auto a = pointAt(0, 0, 0), b = pointAt(1, 0, 0), c = pointAt(0, 1, 0);
-    const auto closed = profileOf({a, b, c, a});
+    const auto closed = makeProfile({{0, 0, 0, 1}, {1, 0, 0, 1}, {0, 1, 0, 1}}, true);
+    const auto a = closed->getCPoint(1), b = closed->getCPoint(2), c = closed->getCPoint(3);
     frmProfileProperty dialog;
     dialog.initialize(closed);
     host.queueDialog({User::check("chkSwitchOrientation", true), User::check("chkVisible", false),
