@@ -1,6 +1,7 @@
 #include "io/TavrinMeshIO.h"
 
 #include "app/SceneDocument.h"
+#include "geometry/CPoint3D.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/LittleEndianWriter.h"
@@ -13,6 +14,7 @@
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 
+#include <bit>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -187,6 +189,8 @@ TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
     const Bytes valid = saved(mixedDocument(), folder.file("doc.tvm"));
     const ObjectList loaded = opened(folder.file("doc.tvm"));
     EXPECT_EQ(saved(loaded, folder.file("again.tvm")), valid);
+    // -0 stays -0.
+    EXPECT_EQ(std::bit_cast<uint32_t>(loaded[0]->getPoints()[0]->getRecord().coord.x), 1u << 31);
     const auto& solid = *loaded[0]->getSolid();
     for (const auto& face : solid.faces) {
         EXPECT_EQ(face->getSolidContainer(), &solid);
