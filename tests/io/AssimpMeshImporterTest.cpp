@@ -1,6 +1,7 @@
 #include "io/AssimpMeshImporter.h"
 
 #include "scene/Face3d.h"
+#include "scene/FaceCoefficients.h"
 #include "scene/Solid3d.h"
 #include "scene/Transformed3d.h"
 #include "support/TempFolder.h"
@@ -52,35 +53,82 @@ endfacet
 endsolid two
 )";
 
-TEST(AssimpMeshImporter, StlCornersAtOnePlaceBecomeOneSharedPoint) {
-    TempFolder folder;
-    const auto [objects, error] = importFiles(folder, {{"two.stl", twoTriangles}});
-    ASSERT_TRUE(objects) << error;
-    ASSERT_EQ(objects->size(), 1u);
-    const Solid3d& solid = *objects->front()->getSolid();
-    EXPECT_EQ(solid.getNextPointIndex() - 1, 4);
-    ASSERT_EQ(solid.GetFaceNum(), 2);
-    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{1, 2, 3}));
-    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 3, 4}));
-    EXPECT_EQ(point(solid, 4), (std::array<float, 3>{0, 1, 0}));
-    // STL says nothing of surfaces: an extrusion's unticked values.
-    EXPECT_EQ(solid.faces[0]->DiffuseKg, 0.5f);
-    EXPECT_EQ(solid.faces[0]->SpecularN, 50.0f);
-}
-
-TEST(AssimpMeshImporter, OffKeepsItsPointsAndAQuadStaysOneFace) {
-    TempFolder folder;
-    const auto [objects, error] =
-        importFiles(folder, {{"quad.off", "OFF\n5 2 0\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n1 0 1\n"
-                                          "3 1 4 2\n4 0 1 2 3\n"}});
-    ASSERT_TRUE(objects) << error;
-    ASSERT_EQ(objects->size(), 1u);
-    const Solid3d& solid = *objects->front()->getSolid();
-    EXPECT_EQ(solid.getNextPointIndex() - 1, 5);
-    ASSERT_EQ(solid.GetFaceNum(), 2);
-    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{2, 5, 3}));
-    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 2, 3, 4}));
-    EXPECT_EQ(point(solid, 5), (std::array<float, 3>{1, 0, 1}));
+// STL corners at one place become one shared point; OFF keeps its points and a quad stays
+// one face; a mirroring glTF node turns the corners so that faces still wind outwards; the
+// indexed meshes of one object keep their points one after the other (the second primitive,
+// triangle 1 2 4 of the square's points, becomes a mesh with its own four points). STL says
+// nothing of surfaces: its faces take an extrusion's unticked values.
+TEST(AssimpMeshImporter, PointsAndCornersComeThroughAsTheFileListsThem) {
+    const struct {
+        const char* name;
+        std::string content;
+        int32_t points;
+        std::vector<Corners> faces;
+        int32_t index;
+        std::array<float, 3> point;
+        std::optional<float> green = {}; // the diffuse green of the first face, where checked
+    } cases[] = {
+        {"two.stl", twoTriangles, 4, {{1, 2, 3}, {1, 3, 4}}, 4, {0, 1, 0}, 0.5f},
+        {"quad.off",
+         "OFF\n5 2 0\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n1 0 1\n3 1 4 2\n4 0 1 2 3\n",
+         5,
+         {{2, 5, 3}, {1, 2, 3, 4}},
+         5,
+         {1, 0, 1}},
+        // One triangle (0,0,0) (1,0,0) (0,1,0), mirrored in x, with a base colour.
+        {"mirror.gltf",
+         R"({"asset": {"version": "2.0"}, "scene": 0,
+  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0, "scale": [-1, 1, 1]}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]}],
+  "materials": [{"pbrMetallicRoughness": {"baseColorFactor": [0.25, 0.5, 0.75, 1]}}],
+  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3",
+                 "min": [0, 0, 0], "max": [1, 1, 0]}],
+  "bufferViews": [{"buffer": 0, "byteLength": 36}],
+  "buffers": [{"byteLength": 36, "uri":
+    "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})",
+         3,
+         {{3, 2, 1}},
+         2,
+         {-1, 0, 0},
+         0.5f},
+        {"two.gltf",
+         R"({"asset": {"version": "2.0"}, "scene": 0,
+  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "indices": 1},
+                             {"attributes": {"POSITION": 0}, "indices": 2}]}],
+  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3",
+                 "min": [0, 0, 0], "max": [1, 1, 0]},
+                {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"},
+                {"bufferView": 1, "byteOffset": 12, "componentType": 5123, "count": 3,
+                 "type": "SCALAR"}],
+  "bufferViews": [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48,
+                   "byteLength": 20}],
+  "buffers": [{"byteLength": 68, "uri": "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA="}]})",
+         8,
+         {{1, 2, 3}, {1, 3, 4}, {5, 6, 8}},
+         6,
+         {1, 0, 0}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        TempFolder folder;
+        const auto [objects, error] = importFiles(folder, {{c.name, c.content}});
+        ASSERT_TRUE(objects) << error;
+        ASSERT_EQ(objects->size(), 1u);
+        const Solid3d& solid = *objects->front()->getSolid();
+        EXPECT_EQ(solid.getNextPointIndex() - 1, c.points);
+        ASSERT_EQ(solid.GetFaceNum(), std::ssize(c.faces));
+        for (size_t f = 0; f < c.faces.size(); ++f) {
+            EXPECT_EQ(solid.faces[f]->getIndices(), c.faces[f]) << "face " << f + 1;
+        }
+        EXPECT_EQ(point(solid, c.index), c.point);
+        if (c.green) {
+            EXPECT_EQ(solid.faces[0]->DiffuseKg, *c.green);
+        }
+        if (std::string_view(c.name).ends_with(".stl")) {
+            EXPECT_EQ(FaceCoefficients::of(*solid.faces[0]), FaceCoefficients::unsaid);
+        }
+    }
 }
 
 TEST(AssimpMeshImporter, MaterialsBecomeCoefficientsOfTheOneSolidOfAnObject) {
@@ -107,54 +155,6 @@ TEST(AssimpMeshImporter, MaterialsBecomeCoefficientsOfTheOneSolidOfAnObject) {
     EXPECT_EQ(shiny.AmbientKb, 0.5f);
     EXPECT_FLOAT_EQ(shiny.SpecularK, 0.4f);
     EXPECT_EQ(shiny.SpecularN, 100.0f); // the exponent bar's end
-}
-
-TEST(AssimpMeshImporter, MirroringNodeTurnsCornersSoFacesStillWindOutward) {
-    TempFolder folder;
-    // One triangle (0,0,0) (1,0,0) (0,1,0), mirrored in x, with a base colour.
-    const auto [objects, error] =
-        importFiles(folder, {{"mirror.gltf", R"({"asset": {"version": "2.0"}, "scene": 0,
-  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0, "scale": [-1, 1, 1]}],
-  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]}],
-  "materials": [{"pbrMetallicRoughness": {"baseColorFactor": [0.25, 0.5, 0.75, 1]}}],
-  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3",
-                 "min": [0, 0, 0], "max": [1, 1, 0]}],
-  "bufferViews": [{"buffer": 0, "byteLength": 36}],
-  "buffers": [{"byteLength": 36, "uri":
-    "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})"}});
-    ASSERT_TRUE(objects) << error;
-    ASSERT_EQ(objects->size(), 1u);
-    const Solid3d& solid = *objects->front()->getSolid();
-    ASSERT_EQ(solid.GetFaceNum(), 1);
-    EXPECT_EQ(point(solid, 2), (std::array<float, 3>{-1, 0, 0}));
-    EXPECT_EQ(solid.faces[0]->getIndices(), (Corners{3, 2, 1}));
-    EXPECT_EQ(solid.faces[0]->DiffuseKg, 0.5f);
-}
-
-TEST(AssimpMeshImporter, IndexedMeshesOfOneObjectKeepTheirPointsOneAfterTheOther) {
-    TempFolder folder;
-    // A square (0,0,0) (1,0,0) (1,1,0) (0,1,0) in two triangles, and a third triangle
-    // 1 2 4 in a second primitive, which the library makes a mesh with its own four points.
-    const auto [objects, error] =
-        importFiles(folder, {{"two.gltf", R"({"asset": {"version": "2.0"}, "scene": 0,
-  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0}],
-  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "indices": 1},
-                             {"attributes": {"POSITION": 0}, "indices": 2}]}],
-  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3",
-                 "min": [0, 0, 0], "max": [1, 1, 0]},
-                {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"},
-                {"bufferView": 1, "byteOffset": 12, "componentType": 5123, "count": 3,
-                 "type": "SCALAR"}],
-  "bufferViews": [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48,
-                   "byteLength": 20}],
-  "buffers": [{"byteLength": 68, "uri": "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA="}]})"}});
-    ASSERT_TRUE(objects) << error;
-    ASSERT_EQ(objects->size(), 1u);
-    const Solid3d& solid = *objects->front()->getSolid();
-    EXPECT_EQ(solid.getNextPointIndex() - 1, 8);
-    ASSERT_EQ(solid.GetFaceNum(), 3);
-    EXPECT_EQ(solid.faces[1]->getIndices(), (Corners{1, 3, 4}));
-    EXPECT_EQ(solid.faces[2]->getIndices(), (Corners{5, 6, 8}));
 }
 
 // A zip archive of one stored entry, "_rels/.rels" holding "x", whose checksum says 0: the

@@ -40,6 +40,21 @@ std::vector<float> coordinatesOf(const Transformed3d& object) {
     return xyz;
 }
 
+// An object of one solid with these points and faces.
+std::shared_ptr<Transformed3d> meshOf(const std::vector<float>& xyz,
+                                      const std::vector<std::vector<int32_t>>& faces) {
+    auto object = std::make_shared<Transformed3d>();
+    object->setSolid(std::make_shared<Solid3d>());
+    object->getSolid()->addPointsArray(xyz);
+    for (const auto& corners : faces) {
+        object->getSolid()->AddFace(corners);
+    }
+    return object;
+}
+
+// A 2 by 2 square listed from its second corner.
+const auto quad = [] { return meshOf({0, 0, 0, 2, 0, 0, 2, 2, 0, 0, 2, 0}, {{2, 3, 4, 1}}); };
+
 const std::string plyTriangle = "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\n"
                                 "property float y\nproperty float z\nelement face 1\n"
                                 "property list uchar int vertex_indices\nend_header\n";
@@ -199,10 +214,7 @@ TEST(MeshFormats, BadObjFilesAreRefusedWithOneLine) {
 }
 
 TEST(MeshFormats, StlFansEachFaceFromItsFirstCornerWithTheTrianglesNormal) {
-    auto object = std::make_shared<Transformed3d>();
-    object->setSolid(std::make_shared<Solid3d>());
-    object->getSolid()->addPointsArray(std::vector<float>{0, 0, 0, 2, 0, 0, 2, 2, 0, 0, 2, 0});
-    object->getSolid()->AddFace(std::vector<int32_t>{2, 3, 4, 1});
+    const auto object = quad();
     const Bytes binary = StlWriter::encode({object}, false);
     ASSERT_EQ(binary.size(), 84u + 2 * 50);
     EXPECT_EQ(binary[80], 2);
@@ -222,16 +234,13 @@ TEST(MeshFormats, StlFansEachFaceFromItsFirstCornerWithTheTrianglesNormal) {
 }
 
 TEST(MeshFormats, AFaceOfMoreThan255CornersComesBackWholeFromPlyAndObj) {
-    auto object = std::make_shared<Transformed3d>();
-    object->setSolid(std::make_shared<Solid3d>());
     std::vector<float> xyz;
     std::vector<int32_t> corners;
     for (int i = 0; i < 300; ++i) {
         xyz.insert(xyz.end(), {std::cos(0.02f * static_cast<float>(i)), 0.1f, 1.0f / 3});
         corners.push_back(300 - i);
     }
-    object->getSolid()->addPointsArray(xyz);
-    object->getSolid()->AddFace(corners);
+    const auto object = meshOf(xyz, {corners});
     const ObjWriter::Text obj = ObjWriter::encode({object}, "a.mtl");
     for (const ObjectList& read :
          {PlyReader::parse(PlyWriter::encode({object})),
@@ -243,15 +252,11 @@ TEST(MeshFormats, AFaceOfMoreThan255CornersComesBackWholeFromPlyAndObj) {
 }
 
 TEST(MeshFormats, StlJoinsCornersAtOnePlaceInEitherEncoding) {
-    auto quad = std::make_shared<Transformed3d>();
-    quad->setSolid(std::make_shared<Solid3d>());
-    quad->getSolid()->addPointsArray(std::vector<float>{0, 0, 0, 2, 0, 0, 2, 2, 0, 0, 2, 0});
-    quad->getSolid()->AddFace(std::vector<int32_t>{2, 3, 4, 1});
-    Bytes binary = StlWriter::encode({quad}, false);
+    Bytes binary = StlWriter::encode({quad()}, false);
     binary[84 + 50 + 19] = 0x80; // the second triangle's first corner at y = -0
     Bytes headed = binary;
     std::copy_n("solid", 5, headed.begin()); // a binary header may start as ASCII does
-    for (const Bytes& file : {binary, headed, StlWriter::encode({quad}, true)}) {
+    for (const Bytes& file : {binary, headed, StlWriter::encode({quad()}, true)}) {
         const ObjectList objects = StlReader::parse(file);
         ASSERT_EQ(objects.size(), 1u);
         EXPECT_EQ(coordinatesOf(*objects[0]),
@@ -263,16 +268,14 @@ TEST(MeshFormats, StlJoinsCornersAtOnePlaceInEitherEncoding) {
         EXPECT_EQ(FaceCoefficients::of(*faces[1]), FaceCoefficients::unsaid);
     }
     // Enough points that corners meet other points in the join table's probes.
-    auto grid = std::make_shared<Transformed3d>();
-    grid->setSolid(std::make_shared<Solid3d>());
     std::vector<float> xyz;
+    std::vector<std::vector<int32_t>> triangles;
     for (int i = 0; i < 400; ++i) {
         xyz.insert(xyz.end(), {static_cast<float>(i % 20), static_cast<float>(i / 20), 0.5f});
+        triangles.push_back({i + 1, i + 2, i + 21});
     }
-    grid->getSolid()->addPointsArray(xyz);
-    for (int i = 1; i <= 380; ++i) {
-        grid->getSolid()->AddFace(std::vector<int32_t>{i, i + 1, i + 20});
-    }
+    triangles.resize(380);
+    const auto grid = meshOf(xyz, triangles);
     EXPECT_EQ(coordinatesOf(*StlReader::parse(StlWriter::encode({grid}, false)).at(0)).size(),
               xyz.size());
     const std::string facet = "facet normal 0 0 1 outer loop vertex 0 0 0 vertex 1 0 0 vertex ";

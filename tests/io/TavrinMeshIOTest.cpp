@@ -1,6 +1,7 @@
 #include "io/TavrinMeshIO.h"
 
 #include "app/SceneDocument.h"
+#include "geometry/CPoint3D.h"
 #include "io/FileBytes.h"
 #include "io/FileError.h"
 #include "io/LittleEndianWriter.h"
@@ -13,6 +14,7 @@
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 
+#include <bit>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -53,7 +55,7 @@ ObjectList opened(std::string name) {
     return TavrinMeshIO().OpenFile(name).value();
 }
 
-// One triangle: points (1, -2, 0.5), (0, 1, 0), (-0, 0, 1); face order 1, coefficients 10..17.
+// One triangle with coefficients 10..17.
 ObjectList triangleDocument() {
     auto solid = std::make_shared<Solid3d>();
     solid->addPointsArray(std::vector<float>{1, -2, 0.5f, 0, 1, 0, -0.0f, 0, 1});
@@ -111,18 +113,13 @@ TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFileOrNothingAtA
     const std::string file = folder.file("t.tvm");
     const Bytes old = saved({makeObject(makeCube())}, file);
     const Bytes bytes = saved(triangleDocument(), file);
-    // Points, then the face: order 1, 3 indices, ambient 10 11 12, diffuse 13 14 15, 16, 17.
-    const Bytes triangle = Values()
-                               .i(1, 3)
-                               .f(1, -2, 0.5f, 0, 1, 0, -0.0f, 0, 1)
-                               .i(1, 1, 3, 1, 2, 3)
-                               .f(10, 11, 12, 13, 14, 15, 16, 17)
-                               .bytes();
-    Bytes expected = triangle; // and the old file's tail behind it
-    expected.insert(expected.end(), old.begin() + std::ssize(triangle), old.end());
+    // The records themselves are the replayed session's file; here, the old file's tail stays
+    // behind them, and only the new document is read back.
+    const Bytes fresh = saved(triangleDocument(), folder.file("fresh.tvm"));
+    Bytes expected = fresh;
+    expected.insert(expected.end(), old.begin() + std::ssize(fresh), old.end());
     EXPECT_EQ(bytes, expected);
-    // Only the new document is read back.
-    EXPECT_EQ(saved(opened(file), folder.file("again.tvm")), triangle);
+    EXPECT_EQ(saved(opened(file), folder.file("again.tvm")), fresh);
 
     EXPECT_EQ(saved({}, folder.file("empty.tvm")), (Bytes{0, 0, 0, 0}));
     // A never-filled solid still has its one record at the origin; an object without a
@@ -192,6 +189,8 @@ TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
     const Bytes valid = saved(mixedDocument(), folder.file("doc.tvm"));
     const ObjectList loaded = opened(folder.file("doc.tvm"));
     EXPECT_EQ(saved(loaded, folder.file("again.tvm")), valid);
+    // -0 stays -0.
+    EXPECT_EQ(std::bit_cast<uint32_t>(loaded[0]->getPoints()[0]->getRecord().coord.x), 1u << 31);
     const auto& solid = *loaded[0]->getSolid();
     for (const auto& face : solid.faces) {
         EXPECT_EQ(face->getSolidContainer(), &solid);

@@ -1,5 +1,4 @@
 #include "geometry/Vector3D.h"
-#include "render/KorvanOpsConsts.h"
 #include "render/viewInfo.h"
 #include "scene/AxesXYZ.h"
 #include "scene/GridSolid3D.h"
@@ -33,20 +32,6 @@ TEST(GridSolid3D, StartUpGridIsTwentyByTwentyPointsOfUpwardQuads) {
     EXPECT_EQ(solid.getPointRecord(400).coord, (Point4{-9, 0, -9, 1}));
     // The second column of quads starts on the next column of points.
     EXPECT_EQ(solid.faces[19]->getIndices(), (std::vector<int32_t>{21, 22, 42, 41}));
-
-    // Seen from above, +z is to the right and +x up.
-    RecordingCanvas canvas(400, 300);
-    ViewSpecs view;
-    view.zoom = 10.0f;
-    view.EyePhi = 1.5707964f;
-    float ex, ey, ez;
-    KorvanOpsConsts::getEyePosition(view, ex, ey, ez);
-    grid.cull(ex, ey, ez);
-    EXPECT_FALSE(grid.ApplyFull(KorvanOpsConsts::getFullViewMatrix(canvas, view)));
-    grid.draw(canvas, LightList{}, 50, ex, ey, ez, false, true, 100, 100, 100);
-    ASSERT_EQ(canvas.polygons().size(), 361u);
-    EXPECT_EQ(std::pair(canvas.polygons()[0].points[0].x, canvas.polygons()[0].points[0].y),
-              std::pair(300, 50));
 }
 
 // The corner glyph starts at the bottom left whatever the view, each axis labelled at its

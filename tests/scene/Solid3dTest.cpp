@@ -1,7 +1,6 @@
 #include "scene/Solid3d.h"
 
 #include "geometry/M3Ops.h"
-#include "support/RecordingCanvas.h"
 #include "support/TestSolids.h"
 
 #include <cstring>
@@ -47,19 +46,6 @@ TEST(Solid3d, SortFacesPaintsTheRearOfOverlappingFacesFirst) {
     solid.faces[0]->IsCulled = true;
     solid.faces[2]->IsCulled = true;
     EXPECT_EQ(solid.SortFaces(), (FaceList{solid.faces[2], solid.faces[0], solid.faces[1]}));
-}
-
-TEST(Solid3d, DrawPaintsSelectedFacesInTheirColourAndTheRestInTheForcedOne) {
-    RecordingCanvas canvas(400, 300);
-    Solid3d solid;
-    addSquare(solid, 10, 10, 20, 0);
-    addSquare(solid, 50, 10, 20, 0);
-    solid.Apply(canvasLayout());
-    solid.faces[1]->setSelected(true);
-    solid.draw(canvas, LightList{}, 0, 0, 0, 100, false, false, false, 150, 0, 0, 0, 0, 200);
-    ASSERT_EQ(canvas.polygons().size(), 2u);
-    EXPECT_EQ(canvas.polygons()[0].fillColor, 150);
-    EXPECT_EQ(canvas.polygons()[1].fillColor, 200 * 65536);
 }
 
 // coord2 takes storage only once something other than zero is written to it: every record
