@@ -8,8 +8,6 @@
 
 #include <benchmark/benchmark.h>
 #include <ctime>
-#include <cstdlib>
-static int iters() { const char* v = std::getenv("KORVAN_ITERS"); return v ? std::atoi(v) : 0; }
 
 namespace {
 
@@ -148,19 +146,19 @@ BENCHMARK(BM_RedrawAllTwisted_Literal)
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RedrawAllTwisted_Serial)->ArgName("layout")->Arg(4)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_RedrawAllTwisted_Fast)->Apply([](benchmark::internal::Benchmark* b) { if (iters() > 0) b->Iterations(iters()); })
+BENCHMARK(BM_RedrawAllTwisted_Fast)
     ->ArgName("layout")
     ->Arg(1)
     ->Arg(4)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 BENCHMARK(BM_HoverTwisted)->ArgName("layout")->Arg(4)->Unit(benchmark::kMicrosecond);
-BENCHMARK(BM_DragStepTwisted)->Apply([](benchmark::internal::Benchmark* b) { if (iters() > 0) b->Iterations(iters()); })
+BENCHMARK(BM_DragStepTwisted)
     ->ArgName("layout")
     ->Arg(4)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
-BENCHMARK(BM_DepthBufferTwisted)->Apply([](benchmark::internal::Benchmark* b) { if (iters() > 0) b->Iterations(iters()); })
+BENCHMARK(BM_DepthBufferTwisted)
     ->ArgName("layout")
     ->Arg(4)
     ->Unit(benchmark::kMillisecond)
