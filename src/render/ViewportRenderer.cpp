@@ -16,6 +16,7 @@
 #include "scene/WorkPlane.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <exception>
 #include <thread>
@@ -41,8 +42,9 @@ struct ViewportRenderer::View {
 
 namespace {
 
-// Runs work(i) for i below count, on two threads when there is more than one; an exception
-// thrown by either is thrown again here once both are done.
+// Runs work(i) for i below count, on two threads when there is more than one, each taking
+// the next i not yet taken, so that unequal pieces of work share out; an exception thrown by
+// either is thrown again here once both are done.
 template <class Work> void onBothCores(size_t count, Work work) {
     if (count < 2) {
         for (size_t i = 0; i < count; ++i) {
@@ -50,31 +52,24 @@ template <class Work> void onBothCores(size_t count, Work work) {
         }
         return;
     }
-    std::exception_ptr failure;
-    const auto share = [&](size_t first) {
+    std::atomic<size_t> next{0};
+    std::exception_ptr failures[2];
+    const auto share = [&](size_t thread) {
         try {
-            for (size_t i = first; i < count; i += 2) {
+            for (size_t i = next++; i < count; i = next++) {
                 work(i);
             }
         } catch (...) {
-            failure = std::current_exception();
+            failures[thread] = std::current_exception();
         }
     };
-    std::exception_ptr own;
     std::thread other(share, 1);
-    try {
-        for (size_t i = 0; i < count; i += 2) {
-            work(i);
-        }
-    } catch (...) {
-        own = std::current_exception();
-    }
+    share(0);
     other.join();
-    if (own) {
-        std::rethrow_exception(own);
-    }
-    if (failure) {
-        std::rethrow_exception(failure);
+    for (const std::exception_ptr& failure : failures) {
+        if (failure) {
+            std::rethrow_exception(failure);
+        }
     }
 }
 
@@ -118,34 +113,21 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
         }
     });
 
-    // The grid, one viewport after the other: it keeps its projection in the document.
-    const bool showGrid = scene.showGrid && scene.grid;
-    for (View& view : views) {
-        if (view.target.paint == ViewportPaint::Untouched) {
-            continue;
-        }
-        Canvas& canvas = *view.target.canvas;
-        BlankCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
-        Canvas& target = view.painted() ? canvas : static_cast<Canvas&>(nothing);
-        if (showGrid) {
-            scene.grid->cull(view.ex, view.ey, view.ez);
-            scene.grid->ApplyFull(view.full);
-            scene.grid->clipEye(view.target.record->EyeR);
-        }
-        if (view.target.paint == ViewportPaint::Project) {
-            if (showGrid) {
-                scene.grid->resetTransformedPoints();
-            }
-            continue;
-        }
-        target.setFillStyle(FillSolid);
-        target.setDrawStyle(DrawInvisible);
-        target.clear();
-        if (showGrid) {
-            scene.grid->draw(target, view.lights, ambientLight, view.ex, view.ey, view.ez, false,
-                             true, gridGrey, gridGrey, gridGrey);
+    // The document takes the projections on one core while the grid is drawn on the other:
+    // neither reads what the other writes.
+    std::vector<const View*> stored;
+    for (const View& view : views) {
+        if (view.target.paint != ViewportPaint::Untouched) {
+            stored.push_back(&view);
         }
     }
+    onBothCores(2, [&](size_t job) {
+        if (job == 0) {
+            drawGrid(views, scene);
+        } else {
+            store(stored, scene);
+        }
+    });
     std::vector<View*> painted;
     for (View& view : views) {
         if (view.painted()) {
@@ -165,9 +147,6 @@ void ViewportRenderer::redraw(const std::vector<ViewportTarget>& targets,
         BlankCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
         drawRest(view, scene, view.painted() ? canvas : static_cast<Canvas&>(nothing));
     }
-    std::erase_if(views,
-                  [](const View& view) { return view.target.paint == ViewportPaint::Untouched; });
-    store(views, scene);
     facts_.clear();
 }
 
@@ -378,7 +357,7 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
     Canvas& canvas = *view.target.canvas;
     DepthBuffer& buffer = *view.depthBuffer;
     // Each core fills every other face into a buffer of its own, then takes a band of rows to
-    // merge, every other face to shade and a band again to paint.
+    // merge and paint, shading each face the band shows once.
     onBothCores(cores, [&](size_t part) {
         DepthBuffer& own = part == 0 ? buffer : *depthBuffers_.back();
         own.reset(canvas.scaleWidth(), canvas.scaleHeight());
@@ -466,6 +445,37 @@ int32_t ViewportRenderer::shade(const View& view, const ViewportScene& scene, si
     return Shading::shadeColor(surface, view.lights, eye, false);
 }
 
+void ViewportRenderer::drawGrid(std::vector<View>& views, const ViewportScene& scene) const {
+    // One viewport after the other: the grid keeps its projection in the document.
+    const bool showGrid = scene.showGrid && scene.grid;
+    for (View& view : views) {
+        if (view.target.paint == ViewportPaint::Untouched) {
+            continue;
+        }
+        Canvas& canvas = *view.target.canvas;
+        BlankCanvas nothing(canvas.scaleWidth(), canvas.scaleHeight());
+        Canvas& target = view.painted() ? canvas : static_cast<Canvas&>(nothing);
+        if (showGrid) {
+            scene.grid->cull(view.ex, view.ey, view.ez);
+            scene.grid->ApplyFull(view.full);
+            scene.grid->clipEye(view.target.record->EyeR);
+        }
+        if (view.target.paint == ViewportPaint::Project) {
+            if (showGrid) {
+                scene.grid->resetTransformedPoints();
+            }
+            continue;
+        }
+        target.setFillStyle(FillSolid);
+        target.setDrawStyle(DrawInvisible);
+        target.clear();
+        if (showGrid) {
+            scene.grid->draw(target, view.lights, ambientLight, view.ex, view.ey, view.ez, false,
+                             true, gridGrey, gridGrey, gridGrey);
+        }
+    }
+}
+
 void ViewportRenderer::drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const {
     const ViewSpecs& record = *view.target.record;
     const bool drawing = view.target.paint != ViewportPaint::Project;
@@ -496,7 +506,8 @@ void ViewportRenderer::drawRest(View& view, const ViewportScene& scene, Canvas& 
     }
 }
 
-void ViewportRenderer::store(const std::vector<View>& views, const ViewportScene& scene) const {
+void ViewportRenderer::store(const std::vector<const View*>& views,
+                             const ViewportScene& scene) const {
     if (views.empty()) {
         return;
     }
@@ -505,21 +516,21 @@ void ViewportRenderer::store(const std::vector<View>& views, const ViewportScene
         for (size_t k = 0; k < scene.solids.size(); ++k) {
             const auto& object = scene.solids[k];
             if (const auto solid = object->getSolid()) {
-                solid->storeProjection(views[i].objects[k], last);
+                solid->storeProjection(views[i]->objects[k], last);
             }
         }
     }
-    const View& last = views.back();
+    const View& last = *views.back();
     for (const auto& object : scene.solids) {
         object->HideSurfaces(last.target.record->HideSurfaces);
         object->projectCurve(last.full);
     }
     // The lights keep the ranges of the last viewport fitted.
     for (auto view = views.rbegin(); view != views.rend(); ++view) {
-        if (view->fitted()) {
+        if ((*view)->fitted()) {
             for (size_t l = 0; l < scene.light_sources.size(); ++l) {
-                scene.light_sources[l]->Rmin = view->lights[l]->Rmin;
-                scene.light_sources[l]->Kdist = view->lights[l]->Kdist;
+                scene.light_sources[l]->Rmin = (*view)->lights[l]->Rmin;
+                scene.light_sources[l]->Kdist = (*view)->lights[l]->Kdist;
             }
             break;
         }

@@ -79,8 +79,10 @@ private:
     // and corners to them unrounded (x, y and depth); false when the view does not show it.
     static bool project(const View& view, const SolidProjection& seen, const Face3d& face, size_t f,
                         std::vector<CanvasPoint>& points, std::vector<float>& corners);
+    void drawGrid(std::vector<View>& views, const ViewportScene& scene) const;
     void drawRest(View& view, const ViewportScene& scene, Canvas& canvas) const;
-    void store(const std::vector<View>& views, const ViewportScene& scene) const;
+    // Leaves in the document what redrawing the viewports one after the other leaves.
+    void store(const std::vector<const View*>& views, const ViewportScene& scene) const;
 
     // Per viewport, kept so that the object order's and the depth buffer's memory is reused.
     std::vector<std::unique_ptr<RadixSort<Transformed3d>>> depthSorters_;
