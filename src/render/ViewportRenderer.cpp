@@ -176,13 +176,17 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
         const float* normal = facts_[k].normals.data();
         for (size_t f = 0; f < faces.size(); ++f, normal += 3) {
             const Face3d& face = *faces[f];
+            const Solid3d* container = face.getSolidContainer();
             if (cullBackFaces &&
-                face.facesAway(normal[0], normal[1], normal[2], view.ex, view.ey, view.ez)) {
+                (container == nullptr || face.NumPts < 1 ||
+                 Face3d::facesAway(normal[0], normal[1], normal[2],
+                                   container->getPointRecord(face.getIndices().front()).coord,
+                                   view.ex, view.ey, view.ez))) {
                 seen.culled[f] = 1;
                 seen.zmax = std::max(seen.zmax, 0.0f);
                 continue;
             }
-            if (face.getSolidContainer() == nullptr) {
+            if (container == nullptr) {
                 continue; // depth -1e30
             }
             float faceMax = -1e30f;

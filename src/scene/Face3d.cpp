@@ -230,23 +230,14 @@ void Face3d::cull(float eye_x, float eye_y, float eye_z) {
 }
 
 bool Face3d::facesAwayFrom(float eye_x, float eye_y, float eye_z) const {
+    if (cornerCount() < 1) {
+        return true;
+    }
     float nx;
     float ny;
     float nz;
     NormalVector(nx, ny, nz);
-    return facesAway(nx, ny, nz, eye_x, eye_y, eye_z);
-}
-
-bool Face3d::facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const {
-    if (cornerCount() < 1) {
-        return true;
-    }
-    const Point4& p = coordOf(1);
-    const auto d = static_cast<float>(static_cast<double>(nx) * (p.x - eye_x) +
-                                      static_cast<double>(ny) * (p.y - eye_y) +
-                                      static_cast<double>(nz) * (p.z - eye_z));
-    // Only faces turned towards the eye by more than the tolerance stay; edge-on is culled.
-    return !(-0.0001 >= d);
+    return facesAway(nx, ny, nz, coordOf(1), eye_x, eye_y, eye_z);
 }
 
 void Face3d::clipEye(float eyeR) {

@@ -91,9 +91,17 @@ public:
     // Visibility: back faces and faces edge-on to the eye are culled; so are faces with a
     // corner at or behind the eye.
     void cull(float eye_x, float eye_y, float eye_z);
-    // What cull decides, without deciding it; facesAway takes the face's NormalVector.
+    // What cull decides, without deciding it.
     bool facesAwayFrom(float eye_x, float eye_y, float eye_z) const;
-    bool facesAway(float nx, float ny, float nz, float eye_x, float eye_y, float eye_z) const;
+    // Whether a face with the normal (its NormalVector) and first corner given faces away:
+    // only faces turned towards the eye by more than the tolerance stay; edge-on is culled.
+    static bool facesAway(float nx, float ny, float nz, const Point4& corner, float eye_x,
+                          float eye_y, float eye_z) {
+        const auto d = static_cast<float>(static_cast<double>(nx) * (corner.x - eye_x) +
+                                          static_cast<double>(ny) * (corner.y - eye_y) +
+                                          static_cast<double>(nz) * (corner.z - eye_z));
+        return !(-0.0001 >= d);
+    }
     void clipEye(float eyeR);
 
     // Depth relations for the painter's sort, all on the transformed points.
