@@ -4,7 +4,6 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 namespace {
 
@@ -12,11 +11,13 @@ namespace {
 using Floats = float __attribute__((vector_size(16)));
 using Words = uint32_t __attribute__((vector_size(16)));
 
-// Whether the other buffer's face is nearer than the pixel's: deeper, or as deep with a larger
-// number.
+// Whether the other buffer's face is nearer than the pixel's: the pixel has none, or the
+// other's is deeper, or as deep with a larger number.
 Words isNearer(Floats otherDepth, Words otherFace, Floats depth, Words face) {
-    return std::bit_cast<Words>(otherDepth > depth) |
-           (std::bit_cast<Words>(otherDepth == depth) & std::bit_cast<Words>(otherFace > face));
+    const Words nearer =
+        std::bit_cast<Words>(face == 0u) | std::bit_cast<Words>(otherDepth > depth) |
+        (std::bit_cast<Words>(otherDepth == depth) & std::bit_cast<Words>(otherFace > face));
+    return nearer & std::bit_cast<Words>(otherFace != 0u);
 }
 
 } // namespace
@@ -30,8 +31,9 @@ void DepthBuffer::reset(int width, int height) {
     stride_ = (static_cast<size_t>(picture_.width) + 6) / 4 * 4;
     const size_t size = stride_ * static_cast<size_t>(picture_.height);
     picture_.pixels.resize(static_cast<size_t>(picture_.width) * picture_.height);
+    // A pixel without a face has no depth to keep: only the faces are cleared.
     faces_.assign(size, 0);
-    depth_.assign(size, -std::numeric_limits<float>::infinity());
+    depth_.resize(size);
 }
 
 void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& points,
@@ -78,7 +80,9 @@ void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& p
                 std::memcpy(&near, kept + i, sizeof near);
                 std::memcpy(&owner, faces + i, sizeof owner);
                 const Words nearer =
-                    std::bit_cast<Words>(depth >= near) & std::bit_cast<Words>(at < count);
+                    (std::bit_cast<Words>(depth >= near) |
+                     (std::bit_cast<Words>(owner == 0u) & std::bit_cast<Words>(depth == depth))) &
+                    std::bit_cast<Words>(at < count);
                 near = std::bit_cast<Floats>((std::bit_cast<Words>(depth) & nearer) |
                                              (std::bit_cast<Words>(near) & ~nearer));
                 owner = (number & nearer) | (owner & ~nearer);

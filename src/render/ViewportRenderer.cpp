@@ -168,6 +168,7 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
         const auto records = static_cast<size_t>(solid->getPointUpperBound()) + 1;
         seen.culled.assign(faces.size(), 0);
         seen.points.resize(records);
+        seen.pixels.resize(records);
         seen.reached.assign(records, 0);
         seen.lit.assign(records, 0);
         // Each face kept has its points projected, is clipped at the eye, and counts to the
@@ -193,8 +194,9 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
             for (const int32_t index : face.getIndices()) {
                 const auto i = static_cast<size_t>(index);
                 if (seen.reached[i] == 0) {
-                    M3Ops::transformPoint(solid->getPointRecord(index).coord, view.full,
-                                          seen.points[i]);
+                    Point4& point = seen.points[i];
+                    M3Ops::transformPoint(solid->getPointRecord(index).coord, view.full, point);
+                    seen.pixels[i] = {Rounding::toInt32(point.x), Rounding::toInt32(point.y)};
                     seen.reached[i] = 1;
                 }
                 const float z = seen.points[i].z;
@@ -421,9 +423,9 @@ bool ViewportRenderer::project(const View& view, const SolidProjection& seen, co
     points.clear();
     corners.clear();
     for (const int32_t index : face.getIndices()) {
-        const Point4& t = seen.points[static_cast<size_t>(index)];
-        points.push_back({Rounding::toInt32(t.x), Rounding::toInt32(t.y)});
-        corners.insert(corners.end(), {t.x, t.y, t.z});
+        const auto i = static_cast<size_t>(index);
+        points.push_back(seen.pixels[i]);
+        corners.insert(corners.end(), {seen.points[i].x, seen.points[i].y, seen.points[i].z});
     }
     return !Face3d::allOffCanvas(points, *view.target.canvas);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geometry/Point4.h"
+#include "platform/Canvas.h"
 
 #include <cstdint>
 #include <vector>
@@ -13,6 +14,7 @@
 struct SolidProjection {
     std::vector<uint8_t> culled;
     std::vector<Point4> points;
+    std::vector<CanvasPoint> pixels; // the points' x and y rounded, as faces are painted
     std::vector<uint8_t> reached;
     std::vector<uint8_t> lit;
     float zmax = 0;
