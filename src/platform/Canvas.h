@@ -2,6 +2,7 @@
 
 #include "platform/MousePointer.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -10,6 +11,25 @@
 struct CanvasPoint {
     int32_t x = 0;
     int32_t y = 0;
+};
+
+// The pixels left <= x < right, top <= y < bottom; none where right <= left or bottom <= top.
+struct PixelBox {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    bool empty() const { return right <= left || bottom <= top; }
+    // Widens the box to hold other too.
+    void include(const PixelBox& other) {
+        if (other.empty()) {
+            return;
+        }
+        *this = empty() ? other
+                        : PixelBox{std::min(left, other.left), std::min(top, other.top),
+                                   std::max(right, other.right), std::max(bottom, other.bottom)};
+    }
 };
 
 // An image in memory, 0x00RRGGBB per pixel, row by row from the top.
@@ -74,10 +94,10 @@ public:
     // nothing of this size is kept. A canvas that keeps no image keeps nothing.
     virtual void keepPicture() {}
     virtual bool restorePicture() { return false; }
-    // Paints the pixels of image whose top byte is set over the picture, the image's top-left
-    // pixel on the canvas's; the others leave the picture as it is. A canvas that keeps no image
-    // has nothing to paint on.
-    virtual void overlayPixels(const Bitmap& /*image*/) {}
+    // Paints the pixels of image within box whose top byte is set over the picture, the
+    // image's top-left pixel on the canvas's; the others leave the picture as it is. A canvas
+    // that keeps no image has nothing to paint on.
+    virtual void overlayPixels(const Bitmap& /*image*/, const PixelBox& /*box*/) {}
     // Placement in the owning window, in the window's pixels; a canvas in a window takes the
     // new size. A canvas that lives in no window (a file being written) ignores it.
     virtual void move(int /*left*/, int /*top*/, int /*width*/, int /*height*/) {}

@@ -187,14 +187,15 @@ bool QtCanvas::restorePicture() {
     return true;
 }
 
-void QtCanvas::overlayPixels(const Bitmap& image) {
+void QtCanvas::overlayPixels(const Bitmap& image, const PixelBox& box) {
     endPainting();
-    const int width = std::min(image.width, image_.width());
-    const int height = std::min(image.height, image_.height());
-    for (int y = 0; y < height; ++y) {
+    const int left = std::max(box.left, 0);
+    const int right = std::min({box.right, image.width, image_.width()});
+    const int bottom = std::min({box.bottom, image.height, image_.height()});
+    for (int y = std::max(box.top, 0); y < bottom; ++y) {
         const uint32_t* source = image.pixels.data() + static_cast<size_t>(y) * image.width;
         auto* target = reinterpret_cast<QRgb*>(image_.scanLine(y));
-        for (int x = 0; x < width; ++x) {
+        for (int x = left; x < right; ++x) {
             // Without a branch: covered and uncovered pixels alternate along a row.
             const uint32_t covered = 0u - (source[x] >> 24 != 0 ? 1u : 0u);
             target[x] = (source[x] & covered) | (target[x] & ~covered);

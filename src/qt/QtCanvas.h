@@ -44,7 +44,7 @@ public:
     // The kept picture shares the image's pixels until either is painted on.
     void keepPicture() override;
     bool restorePicture() override;
-    void overlayPixels(const Bitmap& image) override;
+    void overlayPixels(const Bitmap& image, const PixelBox& box) override;
     // Replaces the file whole or not at all.
     bool saveBitmap(const std::string& path) const override;
 

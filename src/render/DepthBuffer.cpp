@@ -34,6 +34,7 @@ void DepthBuffer::reset(int width, int height) {
     // A pixel without a face has no depth to keep: only the faces are cleared.
     faces_.assign(size, 0);
     depth_.resize(size);
+    covered_ = {};
 }
 
 void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& points,
@@ -41,6 +42,17 @@ void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& p
     if (points.size() < 3 || depths.size() < 9) {
         return;
     }
+    // A pixel is covered where its centre lies inside, so within the corners' box.
+    const auto [low, high] = std::minmax_element(
+        points.begin(), points.end(), [](const auto& p, const auto& q) { return p.y < q.y; });
+    const auto [leftmost, rightmost] = std::minmax_element(
+        points.begin(), points.end(), [](const auto& p, const auto& q) { return p.x < q.x; });
+    const PixelBox box{std::max(leftmost->x, 0), std::max(low->y, 0),
+                       std::min(rightmost->x, picture_.width), std::min(high->y, picture_.height)};
+    if (box.empty()) {
+        return;
+    }
+    covered_.include(box);
     // The plane depth = a x + b y + c through the first three corners.
     const double x1 = depths[0], y1 = depths[1], z1 = depths[2];
     const double ux = depths[3] - x1, uy = depths[4] - y1, uz = depths[5] - z1;

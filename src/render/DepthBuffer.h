@@ -27,18 +27,22 @@ public:
     // corners rounded, as the polygon is filled. Each thread brings a filler of its own.
     void fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& points,
               const std::vector<float>& depths, uint32_t face);
+    // The pixels outside which no face has been filled.
+    const PixelBox& covered() const { return covered_; }
     // Each pixel of rows top <= y < bottom that a face of the other, of the same size, covers
     // nearer takes that face and depth.
     void takeNearer(const DepthBuffer& other, int top, int bottom);
-    // Gives the pixels of rows top <= y < bottom the colour of their face, colorOf(face) with
-    // 0xFF in the top byte, so that Canvas::overlayPixels paints just the covered ones. Each
-    // face that shows is asked for once: colors holds the answers, 0 for faces not yet asked.
+    // Gives the pixels of box the colour of their face, colorOf(face) with 0xFF in the top
+    // byte, so that Canvas::overlayPixels paints just the covered ones; the picture's other
+    // pixels are left as they are. Each face that shows is asked for once: colors holds the
+    // answers, 0 for faces not yet asked.
     template <class ColorOf>
-    void paint(std::vector<uint32_t>& colors, int top, int bottom, ColorOf colorOf);
+    void paint(std::vector<uint32_t>& colors, const PixelBox& box, ColorOf colorOf);
     const Bitmap& picture() const { return picture_; }
 
 private:
     Bitmap picture_;
+    PixelBox covered_;
     // Each pixel's depth and face number, in rows of stride_ pixels.
     size_t stride_ = 4;
     std::vector<float> depth_;
@@ -46,11 +50,11 @@ private:
 };
 
 template <class ColorOf>
-void DepthBuffer::paint(std::vector<uint32_t>& colors, int top, int bottom, ColorOf colorOf) {
-    for (int y = std::max(top, 0); y < std::min(bottom, picture_.height); ++y) {
+void DepthBuffer::paint(std::vector<uint32_t>& colors, const PixelBox& box, ColorOf colorOf) {
+    for (int y = std::max(box.top, 0); y < std::min(box.bottom, picture_.height); ++y) {
         const uint32_t* faces = faces_.data() + static_cast<size_t>(y) * stride_;
         uint32_t* pixels = picture_.pixels.data() + static_cast<size_t>(y) * picture_.width;
-        for (int x = 0; x < picture_.width; ++x) {
+        for (int x = std::max(box.left, 0); x < std::min(box.right, picture_.width); ++x) {
             const uint32_t face = faces[x];
             if (face != 0 && colors[face] == 0) {
                 colors[face] = 0xFF000000u | colorOf(face);

@@ -383,18 +383,20 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
             }
         }
     });
-    const auto rows = [&](size_t band) {
-        const auto height = static_cast<size_t>(buffer.height());
-        return std::pair{static_cast<int>(height * band / cores),
-                         static_cast<int>(height * (band + 1) / cores)};
-    };
+    // Only the rows and columns some face may cover are merged, painted and laid over.
+    PixelBox box = buffer.covered();
+    if (cores > 1) {
+        box.include(depthBuffers_.back()->covered());
+    }
     onBothCores(cores, [&](size_t band) {
-        const auto [top, bottom] = rows(band);
+        const auto height = static_cast<size_t>(std::max(box.bottom - box.top, 0));
+        const PixelBox rows{box.left, box.top + static_cast<int>(height * band / cores), box.right,
+                            box.top + static_cast<int>(height * (band + 1) / cores)};
         if (cores > 1) {
-            buffer.takeNearer(*depthBuffers_.back(), top, bottom);
+            buffer.takeNearer(*depthBuffers_.back(), rows.top, rows.bottom);
         }
         std::vector<uint32_t> colors(firsts.back(), 0);
-        buffer.paint(colors, top, bottom, [&](uint32_t face) {
+        buffer.paint(colors, rows, [&](uint32_t face) {
             const size_t k =
                 static_cast<size_t>(std::upper_bound(firsts.begin(), firsts.end(), face) -
                                     firsts.begin()) -
@@ -405,7 +407,7 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
                    static_cast<uint32_t>(rgb.blue & 0xFF);
         });
     });
-    canvas.overlayPixels(buffer.picture());
+    canvas.overlayPixels(buffer.picture(), box);
     // The canvas is left with the styles a painted object leaves.
     if (std::any_of(view.order.begin(), view.order.end(),
                     [&](size_t place) { return scene.solids[place]->getSolid() != nullptr; })) {

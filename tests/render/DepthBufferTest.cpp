@@ -24,7 +24,8 @@ Flat flat(const std::vector<CanvasPoint>& points, float depth) {
 
 TEST(DepthBuffer, KeepsTheNearestFaceAndShadesOnlyTheFacesThatShow) {
     // Face 1 far, face 2 near over its middle, face 3 as near as 1 and wholly behind 2, face 4
-    // as near as 2 over part of it: the larger number wins the tie.
+    // as near as 2 over part of it: the larger number wins the tie. Only the box the faces
+    // cover is painted.
     DepthBuffer buffer;
     buffer.reset(10, 4);
     ScanlineFiller filler;
@@ -36,7 +37,7 @@ TEST(DepthBuffer, KeepsTheNearestFaceAndShadesOnlyTheFacesThatShow) {
     }
     std::vector<uint32_t> colors(5, 0);
     std::vector<uint32_t> asked;
-    buffer.paint(colors, 0, 4, [&](uint32_t face) {
+    buffer.paint(colors, buffer.covered(), [&](uint32_t face) {
         asked.push_back(face);
         return face;
     });
@@ -84,8 +85,8 @@ TEST(DepthBuffer, TwoBuffersMergedGiveThePictureOfOne) {
     even.takeNearer(odd, 20, height);
     std::vector<uint32_t> colors(401, 0);
     const auto colorOf = [](uint32_t face) { return face; };
-    one.paint(colors, 0, height, colorOf);
+    one.paint(colors, {0, 0, width, height}, colorOf);
     std::fill(colors.begin(), colors.end(), 0);
-    even.paint(colors, 0, height, colorOf);
+    even.paint(colors, {0, 0, width, height}, colorOf);
     EXPECT_EQ(one.picture().pixels, even.picture().pixels);
 }
