@@ -39,12 +39,13 @@ struct ViewportTarget {
 //
 // Several viewports are redrawn at once: the objects of each are projected into buffers of
 // its own and painted on both cores (the document is only read meanwhile), the small rest
-// (grid, workplanes, profiles, axes) one viewport after the other. The document is then left
-// as redrawing the viewports one after another in order leaves it: a point keeps the
-// projection of the last viewport whose faces reached it, and the faces' culling, the objects'
-// depths and flags and the lights' ranges are those of the last viewport. Viewports left
-// untouched take no part: a redraw that leaves some is one step of a drag, and the document
-// holds what a full redraw leaves only once one without them follows.
+// (grid, workplanes, profiles, axes) one viewport after the other, the grid while the
+// projections are stored. The document is left as redrawing the viewports one after another
+// in order leaves it: a point keeps the projection of the last viewport whose faces reached
+// it, and the faces' culling, the objects' depths and flags and the lights' ranges are those
+// of the last viewport. Viewports left untouched take no part: a redraw that leaves some is
+// one step of a drag, and the document holds what a full redraw leaves only once one without
+// them follows.
 class ViewportRenderer {
 public:
     // Rendering constants of every viewport.
