@@ -50,11 +50,11 @@ bool GDIRegion::inRegion(int32_t x, int32_t y) const {
 
 bool GDIRegion::rectWithinRegionParameter(int32_t Left, int32_t top, int32_t Right,
                                           int32_t bottom) const {
-    return rectInRegion(RegionRect{Left, top, Right, bottom});
+    return rectInRegion(PixelBox{Left, top, Right, bottom});
 }
 
-bool GDIRegion::rectInRegion(const RegionRect& rect) const {
-    if (rect.left >= rect.right || rect.top >= rect.bottom || edges_.empty()) {
+bool GDIRegion::rectInRegion(const PixelBox& rect) const {
+    if (rect.empty() || edges_.empty()) {
         return false;
     }
     int64_t polygonEnd = edges_.front().yBottom;

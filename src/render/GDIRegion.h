@@ -5,15 +5,6 @@
 #include <cstdint>
 #include <vector>
 
-// A rectangle of whole pixels: columns left to right - 1, rows top to bottom - 1. A
-// rectangle whose right is not beyond its left (or bottom beyond its top) holds no pixel.
-struct RegionRect {
-    int32_t left = 0;
-    int32_t top = 0;
-    int32_t right = 0;
-    int32_t bottom = 0;
-};
-
 // The pixels a screen polygon covers, for picking what was painted there.
 //
 // Pixel (x, y) is covered when its centre (x + 0.5, y + 0.5) lies inside the polygon under
@@ -37,7 +28,7 @@ public:
     bool inRegion(int32_t x, int32_t y) const;
     // True when any pixel of the rectangle is covered.
     bool rectWithinRegionParameter(int32_t Left, int32_t top, int32_t Right, int32_t bottom) const;
-    bool rectInRegion(const RegionRect& rect) const;
+    bool rectInRegion(const PixelBox& rect) const;
 
 private:
     // A slanted or vertical edge, kept from its upper end to its lower end; direction says
