@@ -34,6 +34,15 @@ private:
     };
     // Sets up the edges; the rows top to bottom - 1 may hold inside pixels.
     void prepare(int height, const std::vector<CanvasPoint>& points, int& top, int& bottom);
+    // Moves the edge's crossing on to the next row.
+    static void step(Edge& edge) {
+        edge.start += edge.startStep;
+        edge.remainder += edge.remainderStep;
+        // Without a branch: the carry comes as often as not.
+        const int32_t carry = edge.remainder >= edge.divisor ? 1 : 0;
+        edge.start += carry;
+        edge.remainder -= carry * edge.divisor;
+    }
 
     // Kept between calls, so that filling allocates nothing once the buffers have grown.
     std::vector<Edge> edges_;
@@ -48,31 +57,56 @@ void ScanlineFiller::forEachSpan(int width, int height, const std::vector<Canvas
     prepare(height, points, top, bottom);
     starts_.resize(edges_.size());
     int32_t* starts = starts_.data();
-    for (int y = top; y < bottom; ++y) {
-        size_t count = 0;
+    // Row by row within stretches where the same edges cross every row. Where just two do, as
+    // everywhere in a convex face, the pixels between their crossings are the row's one span.
+    for (int y = top; y < bottom;) {
+        int end = bottom;
+        Edge* crossing[2] = {nullptr, nullptr};
+        size_t crossings = 0;
         for (Edge& edge : edges_) {
-            if (y < edge.top || y >= edge.bottom) {
-                continue;
+            if (edge.top > y) {
+                end = std::min(end, edge.top);
+            } else if (edge.bottom > y) {
+                end = std::min(end, edge.bottom);
+                crossing[crossings < 2 ? crossings : 1] = &edge;
+                ++crossings;
             }
-            // Insertion sort: a row of a face crosses few edges.
-            size_t k = count++;
-            for (; k > 0 && starts[k - 1] > edge.start; --k) {
-                starts[k] = starts[k - 1];
-            }
-            starts[k] = edge.start;
-            edge.start += edge.startStep;
-            edge.remainder += edge.remainderStep;
-            // Without a branch: the carry comes as often as not.
-            const int32_t carry = edge.remainder >= edge.divisor ? 1 : 0;
-            edge.start += carry;
-            edge.remainder -= carry * edge.divisor;
         }
-        // Even-odd: the pixels from one start up to the next are inside, then outside.
-        for (size_t k = 0; k + 1 < count; k += 2) {
-            const int32_t left = std::max(starts[k], 0);
-            const int32_t right = std::min(starts[k + 1], width);
-            if (left < right) {
-                span(y, left, right);
+        if (crossings == 2) {
+            Edge& a = *crossing[0];
+            Edge& b = *crossing[1];
+            for (; y < end; ++y) {
+                const int32_t left = std::max(std::min(a.start, b.start), 0);
+                const int32_t right = std::min(std::max(a.start, b.start), width);
+                if (left < right) {
+                    span(y, left, right);
+                }
+                step(a);
+                step(b);
+            }
+            continue;
+        }
+        for (; y < end; ++y) {
+            size_t count = 0;
+            for (Edge& edge : edges_) {
+                if (y < edge.top || y >= edge.bottom) {
+                    continue;
+                }
+                // Insertion sort: a row of a face crosses few edges.
+                size_t k = count++;
+                for (; k > 0 && starts[k - 1] > edge.start; --k) {
+                    starts[k] = starts[k - 1];
+                }
+                starts[k] = edge.start;
+                step(edge);
+            }
+            // Even-odd: the pixels from one start up to the next are inside, then outside.
+            for (size_t k = 0; k + 1 < count; k += 2) {
+                const int32_t left = std::max(starts[k], 0);
+                const int32_t right = std::min(starts[k + 1], width);
+                if (left < right) {
+                    span(y, left, right);
+                }
             }
         }
     }
