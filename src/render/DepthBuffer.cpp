@@ -23,15 +23,26 @@ Words isNearer(Floats otherDepth, Words otherFace, Floats depth, Words face) {
 } // namespace
 
 void DepthBuffer::reset(int width, int height) {
-    picture_.width = std::max(width, 0);
-    picture_.height = std::max(height, 0);
+    width = std::max(width, 0);
+    height = std::max(height, 0);
+    if (width == picture_.width && height == picture_.height) {
+        // A pixel without a face has no depth to keep: only the faces are cleared, and only
+        // where some face was filled.
+        for (int y = covered_.top; y < covered_.bottom; ++y) {
+            uint32_t* row = faces_.data() + static_cast<size_t>(y) * stride_;
+            std::fill(row + covered_.left, row + covered_.right, 0u);
+        }
+        covered_ = {};
+        return;
+    }
+    picture_.width = width;
+    picture_.height = height;
     // Rows are longer than the picture by three pixels and a multiple of four, so that a span's
     // last four pixels can be read and written back whole without reaching into the next row,
     // and pictures be merged four pixels at a time.
-    stride_ = (static_cast<size_t>(picture_.width) + 6) / 4 * 4;
-    const size_t size = stride_ * static_cast<size_t>(picture_.height);
-    picture_.pixels.resize(static_cast<size_t>(picture_.width) * picture_.height);
-    // A pixel without a face has no depth to keep: only the faces are cleared.
+    stride_ = (static_cast<size_t>(width) + 6) / 4 * 4;
+    const size_t size = stride_ * static_cast<size_t>(height);
+    picture_.pixels.resize(static_cast<size_t>(width) * height);
     faces_.assign(size, 0);
     depth_.resize(size);
     covered_ = {};
@@ -104,22 +115,18 @@ void DepthBuffer::fill(ScanlineFiller& filler, const std::vector<CanvasPoint>& p
         });
 }
 
-void DepthBuffer::takeNearer(const DepthBuffer& other, int top, int bottom) {
-    const size_t end = static_cast<size_t>(std::min(bottom, picture_.height)) * stride_;
-    for (size_t i = static_cast<size_t>(std::max(top, 0)) * stride_; i + 4 <= end; i += 4) {
+void DepthBuffer::nearest(const DepthBuffer& other, size_t at, int count, uint32_t* faces) const {
+    for (int i = 0; i < count; i += 4, at += 4) {
         Floats near;
         Words owner;
         Floats otherNear;
         Words otherOwner;
-        std::memcpy(&near, depth_.data() + i, sizeof near);
-        std::memcpy(&owner, faces_.data() + i, sizeof owner);
-        std::memcpy(&otherNear, other.depth_.data() + i, sizeof otherNear);
-        std::memcpy(&otherOwner, other.faces_.data() + i, sizeof otherOwner);
+        std::memcpy(&near, depth_.data() + at, sizeof near);
+        std::memcpy(&owner, faces_.data() + at, sizeof owner);
+        std::memcpy(&otherNear, other.depth_.data() + at, sizeof otherNear);
+        std::memcpy(&otherOwner, other.faces_.data() + at, sizeof otherOwner);
         const Words taken = isNearer(otherNear, otherOwner, near, owner);
-        near = std::bit_cast<Floats>((std::bit_cast<Words>(otherNear) & taken) |
-                                     (std::bit_cast<Words>(near) & ~taken));
         owner = (otherOwner & taken) | (owner & ~taken);
-        std::memcpy(depth_.data() + i, &near, sizeof near);
-        std::memcpy(faces_.data() + i, &owner, sizeof owner);
+        std::memcpy(faces + i, &owner, sizeof owner);
     }
 }

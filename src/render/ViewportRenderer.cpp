@@ -363,7 +363,7 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
     Canvas& canvas = *view.target.canvas;
     DepthBuffer& buffer = *view.depthBuffer;
     // Each core fills every other face into a buffer of its own, then takes a band of rows to
-    // merge and paint, shading each face the band shows once.
+    // paint from both, shading each face the band shows once.
     onBothCores(cores, [&](size_t part) {
         DepthBuffer& own = part == 0 ? buffer : *depthBuffers_.back();
         own.reset(canvas.scaleWidth(), canvas.scaleHeight());
@@ -392,20 +392,21 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
         const auto height = static_cast<size_t>(std::max(box.bottom - box.top, 0));
         const PixelBox rows{box.left, box.top + static_cast<int>(height * band / cores), box.right,
                             box.top + static_cast<int>(height * (band + 1) / cores)};
-        if (cores > 1) {
-            buffer.takeNearer(*depthBuffers_.back(), rows.top, rows.bottom);
-        }
         std::vector<uint32_t> colors(firsts.back(), 0);
-        buffer.paint(colors, rows, [&](uint32_t face) {
-            const size_t k =
-                static_cast<size_t>(std::upper_bound(firsts.begin(), firsts.end(), face) -
-                                    firsts.begin()) -
-                1;
-            const PackedColor rgb = PackedColor::split(shade(view, scene, k, face - firsts[k]));
-            return (static_cast<uint32_t>(rgb.red & 0xFF) << 16) |
-                   (static_cast<uint32_t>(rgb.green & 0xFF) << 8) |
-                   static_cast<uint32_t>(rgb.blue & 0xFF);
-        });
+        const DepthBuffer* other = cores > 1 ? depthBuffers_.back().get() : nullptr;
+        buffer.paint(
+            colors, rows,
+            [&](uint32_t face) {
+                const size_t k =
+                    static_cast<size_t>(std::upper_bound(firsts.begin(), firsts.end(), face) -
+                                        firsts.begin()) -
+                    1;
+                const PackedColor rgb = PackedColor::split(shade(view, scene, k, face - firsts[k]));
+                return (static_cast<uint32_t>(rgb.red & 0xFF) << 16) |
+                       (static_cast<uint32_t>(rgb.green & 0xFF) << 8) |
+                       static_cast<uint32_t>(rgb.blue & 0xFF);
+            },
+            other);
     });
     canvas.overlayPixels(buffer.picture(), box);
     // The canvas is left with the styles a painted object leaves.

@@ -52,9 +52,9 @@ TEST(DepthBuffer, KeepsTheNearestFaceAndShadesOnlyTheFacesThatShow) {
     EXPECT_EQ(asked, (std::vector<uint32_t>{1, 2, 4}));
 }
 
-TEST(DepthBuffer, TwoBuffersMergedGiveThePictureOfOne) {
+TEST(DepthBuffer, TwoBuffersPaintedTogetherGiveThePictureOfOne) {
     // Random triangles, most of them flat at a few depths, every other one into a second
-    // buffer merged by bands of rows: the picture does not depend on the split.
+    // buffer painted from by bands of rows: the picture does not depend on the split.
     std::mt19937 random(3);
     std::uniform_int_distribution<int> coordinate(-10, 70);
     std::uniform_int_distribution<int> depth(0, 3);
@@ -67,6 +67,10 @@ TEST(DepthBuffer, TwoBuffersMergedGiveThePictureOfOne) {
         buffer->reset(width, height);
     }
     ScanlineFiller filler;
+    // A picture before, of the same size: its face must be gone.
+    const Flat before = flat({{0, 0}, {width, 0}, {width, height}, {0, height}}, 100);
+    one.fill(filler, before.points, before.depths, 400);
+    one.reset(width, height);
     for (uint32_t face = 1; face <= 400; ++face) {
         // Flat at one of four depths, or sloping.
         const auto level = static_cast<float>(depth(random));
@@ -81,12 +85,11 @@ TEST(DepthBuffer, TwoBuffersMergedGiveThePictureOfOne) {
         one.fill(filler, points, depths, face);
         (face % 2 == 0 ? even : odd).fill(filler, points, depths, face);
     }
-    even.takeNearer(odd, 0, 20);
-    even.takeNearer(odd, 20, height);
     std::vector<uint32_t> colors(401, 0);
     const auto colorOf = [](uint32_t face) { return face; };
     one.paint(colors, {0, 0, width, height}, colorOf);
     std::fill(colors.begin(), colors.end(), 0);
-    even.paint(colors, {0, 0, width, height}, colorOf);
+    even.paint(colors, {0, 0, width, 20}, colorOf, &odd);
+    even.paint(colors, {0, 20, width, height}, colorOf, &odd);
     EXPECT_EQ(one.picture().pixels, even.picture().pixels);
 }
