@@ -4,6 +4,8 @@
 #include "platform/Canvas.h"
 #include "platform/ModalDialog.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -31,6 +33,10 @@ const std::vector<std::string> hostileTexts = {"",
 const std::vector<MessageAnswer> unsavedWorkAnswers = {MessageAnswer::Save, MessageAnswer::Discard,
                                                        MessageAnswer::Cancel};
 const std::vector<int> keys = {13, 67, 69, 13, 67, 69, 0, 27, 46, 65, 112};
+
+bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
 
 // The leaves of the menu under item that a user can choose, by caption path.
 void leaves(const MenuItem& item, std::vector<std::string>& path,
@@ -92,19 +98,14 @@ std::optional<MacroAction> Monkey::next(const Waiting& waiting) {
             return macro::Message{chance(50) ? MessageAnswer::Yes : MessageAnswer::No};
         }
     case Waiting::Kind::Input:
-        if (chance(15)) {
-            return macro::Input{std::nullopt};
-        }
-        return macro::Input{chance(75) ? oneOf(sensibleTexts) : oneOf(hostileTexts)};
+        return chance(15) ? macro::Input{std::nullopt}
+                          : macro::Input{chance(75) ? oneOf(sensibleTexts) : oneOf(hostileTexts)};
     case Waiting::Kind::File:
         return macro::File{chance(20) ? std::string() : path()};
     case Waiting::Kind::Color:
         return macro::Color{chance(20) ? -1 : between(0, 0xFFFFFF)};
     case Waiting::Kind::Popup:
-        if (chance(15)) {
-            return std::nullopt;
-        }
-        return menu(form_->getMenus().getPopupMenu(), true);
+        return chance(15) ? std::nullopt : menu(form_->getMenus().getPopupMenu(), true);
     }
     return std::nullopt;
 }
@@ -149,12 +150,12 @@ MacroAction Monkey::windowAction() {
         // (the profile was not made, say) ends it.
         MacroAction step = std::move(planned_.front());
         planned_.pop_front();
-        if (const auto* click = std::get_if<macro::TreeClick>(&step);
-            click != nullptr && !form_->getSceneTree().findSceneNode(click->key)) {
-            planned_.clear();
-        } else if (const auto* chosen = std::get_if<macro::Menu>(&step);
-                   chosen != nullptr && form_->getMenus().getMenuBar().findPath(chosen->path) &&
-                   !form_->getMenus().getMenuBar().findPath(chosen->path)->isEnabled()) {
+        const auto* click = std::get_if<macro::TreeClick>(&step);
+        const auto* chosen = std::get_if<macro::Menu>(&step);
+        const MenuItem* item =
+            chosen ? form_->getMenus().getMenuBar().findPath(chosen->path) : nullptr;
+        if ((click && !form_->getSceneTree().findSceneNode(click->key)) ||
+            (item && !item->isEnabled())) {
             planned_.clear();
         } else {
             return step;
@@ -283,7 +284,7 @@ MacroAction Monkey::dialogAction(const ModalDialog& dialog) {
         usable.push_back(control);
         if (control.verb == Verb::Press) {
             buttons.push_back(control.name);
-            if (control.name.find("Cancel") != std::string::npos) {
+            if (contains(control.name, "Cancel")) {
                 cancels.push_back(control.name);
             }
         }
@@ -325,7 +326,7 @@ MacroAction Monkey::dialogAction(const ModalDialog& dialog) {
 
 std::string Monkey::text(const std::string& control) {
     // Subdivisions make work in proportion: keep them small but for the odd hostile one.
-    if (control.find("Incr") != std::string::npos) {
+    if (contains(control, "Incr")) {
         return chance(90) ? std::to_string(between(1, 12)) : oneOf(hostileTexts);
     }
     return chance(70) ? oneOf(sensibleTexts) : oneOf(hostileTexts);
@@ -351,8 +352,8 @@ MacroAction Monkey::fillIn(const ModalDialog& dialog) {
     int textBox = 0;
     for (const auto& control : controls) {
         if (control.verb == Verb::Type && control.enabled && ++textBox == dialogActions_) {
-            const bool steps = control.name.find("Incr") != std::string::npos;
             const std::vector<std::string> values = {"1", "2", "0.5", "3", "1.5", "0.25"};
+            const bool steps = contains(control.name, "Incr");
             return macro::Dialog{dialog.caption(),
                                  {Verb::Type, control.name,
                                   steps ? std::to_string(between(1, 8)) : oneOf(values), 0}};
@@ -362,18 +363,12 @@ MacroAction Monkey::fillIn(const ModalDialog& dialog) {
     std::vector<std::string> accepting;
     std::vector<std::string> others;
     for (const auto& control : controls) {
-        if (control.verb != Verb::Press || !control.enabled) {
-            continue;
+        const auto named = [&](const char* word) { return contains(control.name, word); };
+        if (control.verb == Verb::Press && control.enabled && !named("Cancel")) {
+            const bool accepts = std::ranges::any_of(
+                std::array{"Accept", "OK", "Extrude", "Confirm", "Select"}, named);
+            (accepts ? accepting : others).push_back(control.name);
         }
-        const std::string& name = control.name;
-        if (name.find("Cancel") != std::string::npos) {
-            continue;
-        }
-        const bool accepts =
-            name.find("Accept") != std::string::npos || name.find("OK") != std::string::npos ||
-            name.find("Extrude") != std::string::npos ||
-            name.find("Confirm") != std::string::npos || name.find("Select") != std::string::npos;
-        (accepts ? accepting : others).push_back(name);
     }
     filling_ = false; // what follows (a refusal, a nested dialog) is played at random
     const std::vector<std::string>& buttons = accepting.empty() ? others : accepting;
