@@ -73,7 +73,7 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::Crosshair);
 }
 
-TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
+TEST(Selectors, FacesOrSolidsOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     Window w;
     const auto upper = w.addSolid(makeCube(1), true);
     const auto lower = w.addSolid(makeCube(1, 0, -4, 0), true);
@@ -84,6 +84,9 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     w.prompts.queueAnswer(MessageAnswer::Yes);
     w.clickAt(top, 0.2f, 1, 0.3f);
     ASSERT_EQ(w.prompts.messages().size(), 1u);
+    EXPECT_EQ(w.prompts.messages()[0].text,
+              "The face selector has selected more than one face.  Do you want to keep them "
+              "both?  No will undo new selection.");
     EXPECT_EQ(w.prompts.messages()[0].title, "Multiple face selection");
     EXPECT_TRUE(upperTop->isSelected());
     EXPECT_TRUE(lowerTop->isSelected());
@@ -98,6 +101,18 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     EXPECT_FALSE(lowerTop->isSelected());
     EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
     EXPECT_EQ(w.node("f5-s1").BackColor, 16776960);
+
+    // Solids ask their own question under the same title.
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleSolidSelector>());
+    w.prompts.queueAnswer(MessageAnswer::Yes);
+    w.clickAt(top, 0.2f, 1, 0.3f);
+    ASSERT_EQ(w.prompts.messages().size(), 3u);
+    EXPECT_EQ(w.prompts.messages()[2].text,
+              "The solid selector has selected more than one solid.  Do you want to keep them "
+              "both?  No will undo new selection.");
+    EXPECT_EQ(w.prompts.messages()[2].title, "Multiple face selection");
+    EXPECT_TRUE(upper->isSelected());
+    EXPECT_TRUE(lower->isSelected());
 }
 
 // Two faces of one solid under the click select it once; a solid without a tree node is
