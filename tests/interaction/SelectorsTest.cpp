@@ -111,7 +111,7 @@ TEST(Selectors, FacesOrSolidsOfTwoSolidsUnderOneClickNeedTheUsersYes) {
               "The solid selector has selected more than one solid.  Do you want to keep them "
               "both?  No will undo new selection.");
     EXPECT_EQ(w.prompts.messages()[2].title, "Multiple face selection");
-    EXPECT_TRUE(upper->isSelected());
+    EXPECT_EQ(w.form.getSelection().selectedSolids.size(), 2u);
     EXPECT_TRUE(lower->isSelected());
 }
 
