@@ -5,6 +5,7 @@
 #include "modelling/frmOrientation.h"
 #include "scene/Profile.h"
 #include "scene/WorkPlane.h"
+#include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
@@ -18,8 +19,7 @@ constexpr int top = 0; // the top view: depth 0 is the plane y = 0
 struct Drawing : TestWindow {
     Drawing() {
         showFourViewports();
-        auto workPlane = std::make_shared<WorkPlane>();
-        workPlane->initialize(2, 0, 0, 0, 0);
+        const auto workPlane = makeWorkPlane(2, 0, 0);
         form.getDocument().workPlanes.push_back(workPlane);
         form.getSelection().setSelectedWorkplanes({workPlane});
         choose({"&Create", "&Profile"});

@@ -29,8 +29,7 @@ struct Window : TestWindow {
     }
 
     std::shared_ptr<Transformed3d> addSolid(const std::shared_ptr<Solid3d>& solid, bool withNode) {
-        auto object = std::make_shared<Transformed3d>();
-        object->setSolid(solid);
+        const auto object = makeObject(solid);
         document().solids.push_back(object);
         if (withNode) {
             form.getSceneTree().addSolidNode(object, static_cast<int32_t>(document().solids.size()),
@@ -56,10 +55,8 @@ std::shared_ptr<Solid3d> twoStackedSquares() {
 TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     Window w;
     for (int i = 0; i < 2; ++i) {
-        auto workPlane = std::make_shared<WorkPlane>();
-        workPlane->initialize(2, 0, 0, 0, 0);
-        w.document().workPlanes.push_back(workPlane);
-        w.form.getSceneTree().addWorkplaneNode(workPlane, "Workplane");
+        w.document().workPlanes.push_back(makeWorkPlane(2, 0, 0));
+        w.form.getSceneTree().addWorkplaneNode(w.document().workPlanes.back(), "Workplane");
     }
     w.form.getMouse().setMouseMode(std::make_unique<ClickHandleWorkPlaneSelector>());
     w.clickAt(isometric, 0.1f, 0.2f, 0);

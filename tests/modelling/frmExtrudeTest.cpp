@@ -177,9 +177,7 @@ TEST_F(frmExtrudeTest, AProfileWithoutANormalOrNoProfileClosesTheDialog) {
 }
 
 TEST_F(frmExtrudeTest, TheListButtonsAddRemoveAndMoveWithWrapAround) {
-    for (const char* answer : {"2", "2", "1"}) {
-        prompts.queueInput(answer);
-    }
+    prompts.queueInput("2", "2", "1");
     dialogs.queueDialog({Host::pick("List1", 2), Host::press("mnuSelect")});
     dialogs.queueDialog({Host::press("mnuCancel")});
     form.press("cmdAddTrans");
