@@ -1,6 +1,3 @@
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"

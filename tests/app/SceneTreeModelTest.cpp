@@ -2,9 +2,6 @@
 
 #include "app/SceneDocument.h"
 #include "app/SceneTreeListener.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

@@ -1,9 +1,6 @@
 #include "app/SelectedItemCommands.h"
 
 #include "geometry/ArithmeticError.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

@@ -3,8 +3,6 @@
 #include "app/ListChange.h"
 #include "interaction/ClickHandleScroll.h"
 #include "interaction/ClickHandleZoom.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
 #include "support/MemorySettings.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"

@@ -3,8 +3,6 @@
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "modelling/frmOrientation.h"
-#include "scene/Profile.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

@@ -2,9 +2,6 @@
 #include "interaction/ClickHandleProfileSelector.h"
 #include "interaction/ClickHandleSolidSelector.h"
 #include "interaction/ClickHandleWorkPlaneSelector.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

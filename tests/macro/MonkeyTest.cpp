@@ -9,7 +9,6 @@
 #include "support/HistoryInvariants.h"
 #include "support/TestScale.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>

@@ -3,8 +3,6 @@
 #include "app/ViewportSet.h"
 #include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
