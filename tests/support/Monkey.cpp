@@ -39,8 +39,8 @@ bool contains(const std::string& text, const char* part) {
 }
 
 // The leaves of the menu under item that a user can choose, by caption path.
-void leaves(const MenuItem& item, std::vector<std::string>& path,
-            std::vector<std::vector<std::string>>& found) {
+void leaves(const MenuItem& item, std::vector<std::vector<std::string>>& found,
+            std::vector<std::string> path = {}) {
     for (const auto& child : item.getChildren()) {
         if (child->isSeparator() || !child->isEnabled() || !child->isVisible() ||
             child->getName() == "mnuFileExit") {
@@ -50,19 +50,20 @@ void leaves(const MenuItem& item, std::vector<std::string>& path,
         if (child->getChildren().empty()) {
             found.push_back(path);
         } else {
-            leaves(*child, path, found);
+            leaves(*child, found, path);
         }
         path.pop_back();
     }
 }
 
 // Every node of the tree made so far, with the texts of its path.
-void nodes(const SceneTreeNode& node, std::vector<std::string>& path,
-           std::vector<std::pair<std::string, std::vector<std::string>>>& found) {
+void nodes(const SceneTreeNode& node,
+           std::vector<std::pair<std::string, std::vector<std::string>>>& found,
+           std::vector<std::string> path = {}) {
     for (const auto& child : node.children()) {
         path.push_back(child->text);
         found.emplace_back(child->key, path);
-        nodes(*child, path, found);
+        nodes(*child, found, path);
         path.pop_back();
     }
 }
@@ -242,22 +243,17 @@ MacroAction Monkey::mouse() {
 
 std::optional<MacroAction> Monkey::treeClick() {
     std::vector<std::pair<std::string, std::vector<std::string>>> found;
-    std::vector<std::string> path;
-    nodes(form_->getSceneTree().root(), path, found);
+    nodes(form_->getSceneTree().root(), found);
     if (found.empty()) {
         return std::nullopt;
     }
     const auto& [key, texts] = oneOf(found);
-    if (!key.empty() && chance(90)) {
-        return macro::TreeClick{key, {}};
-    }
-    return macro::TreeClick{"", texts};
+    return !key.empty() && chance(90) ? macro::TreeClick{key, {}} : macro::TreeClick{"", texts};
 }
 
 std::optional<MacroAction> Monkey::menu(const MenuItem& root, bool popup) {
     std::vector<std::vector<std::string>> found;
-    std::vector<std::string> path;
-    leaves(root, path, found);
+    leaves(root, found);
     if (found.empty()) {
         return std::nullopt;
     }
