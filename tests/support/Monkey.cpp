@@ -202,15 +202,11 @@ std::optional<MacroAction> Monkey::undoRun() {
 }
 
 float Monkey::coordinate(int size) {
-    const int roll = between(1, 100);
-    if (roll <= 85) {
-        return static_cast<float>(between(0, std::max(size - 1, 0)));
-    }
-    if (roll <= 97) {
-        return static_cast<float>(between(-60, size + 60));
-    }
     const float far[] = {-1e6f, 1e6f, 3e9f, -3e9f, 1e30f, 0.5f};
-    return far[between(0, 5)];
+    const int roll = between(1, 100);
+    return roll <= 85   ? static_cast<float>(between(0, std::max(size - 1, 0)))
+           : roll <= 97 ? static_cast<float>(between(-60, size + 60))
+                        : far[between(0, 5)];
 }
 
 MacroAction Monkey::mouse() {
@@ -329,18 +325,13 @@ std::string Monkey::text(const std::string& control) {
 }
 
 std::string Monkey::path() {
+    // A name too long for any file system is refused alike wherever the macro is replayed.
     const int roll = between(1, 100);
-    if (roll <= 60) {
-        return folder_ + "/scene" + std::to_string(between(1, 3)) + ".tvm";
-    }
-    if (roll <= 75) {
-        // Too long for any file system: refused alike wherever the macro is replayed.
-        return folder_ + "/" + std::string(300, 'n') + ".tvm";
-    }
-    if (roll <= 90) {
-        return folder_ + "/scene.txt";
-    }
-    return folder_ + "/\x01odd name\x7f.tvm";
+    return folder_ + "/" +
+           (roll <= 60   ? "scene" + std::to_string(between(1, 3)) + ".tvm"
+            : roll <= 75 ? std::string(300, 'n') + ".tvm"
+            : roll <= 90 ? "scene.txt"
+                         : "\x01odd name\x7f.tvm");
 }
 
 MacroAction Monkey::fillIn(const ModalDialog& dialog) {
