@@ -33,10 +33,8 @@ struct DragReturnsNone : ClickHandleNothing {
 // A main window whose document holds three cubes, each with its node in the tree.
 struct Window : TestWindow {
     Window() {
-        for (int n = 1; n <= 3; ++n) {
-            form.getDocument().solids.push_back(makeObject());
-            form.getSceneTree().addSolidNode(form.getDocument().solids.back(), n, "Solid");
-        }
+        form.getDocument().solids = {makeObject(), makeObject(), makeObject()};
+        form.rebuildTree();
     }
 
     SceneTreeNode& node(const std::string& key) { return *form.getSceneTree().findSceneNode(key); }
