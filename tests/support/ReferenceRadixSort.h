@@ -7,7 +7,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -34,9 +33,10 @@ public:
 
     std::vector<std::shared_ptr<T>> getSortedObjects() {
         std::vector<std::shared_ptr<T>> sorted;
-        auto pairs = sortList(negative_, false);
-        std::ranges::copy(sortList(nonNegative_, true), std::back_inserter(pairs));
-        for (const auto& pair : pairs) {
+        for (const auto& pair : sortList(negative_, false)) {
+            sorted.push_back(pair->obj);
+        }
+        for (const auto& pair : sortList(nonNegative_, true)) {
             sorted.push_back(pair->obj);
         }
         return sorted;
