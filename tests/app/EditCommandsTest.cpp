@@ -1,6 +1,5 @@
 #include "app/EditCommands.h"
 
-#include "scene/Transformed3d.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"

@@ -1,6 +1,3 @@
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
@@ -80,17 +77,15 @@ TEST(FileCommands, ExportSavesTheOnlyViewportOrAsksUntilTheAnswerNamesOne) {
 
     w.choose({"&Options", "&Set Viewports", "&Four Windows"});
     w.files.queueAnswer("four");
-    for (const char* answer : {"0", "5", "-1", "two", "0.4", "0x3", "2,5", "2.5"}) {
-        w.prompts.queueInput(answer);
-    }
+    w.prompts.queueInput("0", "5", "-1", "two", "0.4", "0x3", "2,5", "2.5");
     w.choose(fileExport);
     EXPECT_EQ(w.prompts.inputBoxes().size(), 8u);
     // 2.5 - 1 rounds to 2, the third viewport.
     EXPECT_EQ(w.canvases[2].savedBitmaps(), (std::vector<std::string>{"four.bmp"}));
     // Cancelling the question, or an empty answer, saves nothing.
-    for (const std::optional<std::string>& answer : {std::optional<std::string>(), {""}}) {
+    w.prompts.queueInput(std::nullopt, "");
+    for (int i = 0; i < 2; ++i) {
         w.files.queueAnswer("none");
-        w.prompts.queueInput(answer);
         w.choose(fileExport);
     }
     EXPECT_EQ(w.canvases[3].savedBitmaps().size(), 3u);

@@ -86,17 +86,14 @@ TEST(ImageCommands, APictureOfAllFourKeepsTheirPlacesAndEachViewportItsView) {
 
     ASSERT_EQ(writer.calls.size(), 2u);
     EXPECT_EQ(writer.calls[1].path, "/pictures/half.jpg");
-    const int places[4][4] = {
+    const std::tuple<int, int, int, int> places[] = {
         {0, 0, 200, 300}, {200, 0, 200, 300}, {0, 300, 200, 300}, {200, 300, 200, 300}};
     for (const auto& call : writer.calls) {
         ASSERT_EQ(call.parts.size(), 4u) << call.path;
     }
     for (size_t i = 0; i < 4; ++i) {
         const PicturePart& part = writer.calls[1].parts[i];
-        EXPECT_EQ(part.left, places[i][0]) << i;
-        EXPECT_EQ(part.top, places[i][1]) << i;
-        EXPECT_EQ(part.width, places[i][2]) << i;
-        EXPECT_EQ(part.height, places[i][3]) << i;
+        EXPECT_EQ(std::tuple(part.left, part.top, part.width, part.height), places[i]) << i;
         // Half as wide: every view frames what it did at half the zoom and shift.
         ViewSpecs view = w.form.getViewports().viewSpecs(static_cast<int>(i) + 1);
         view.zoom /= 2;

@@ -1,7 +1,6 @@
 #include "app/UndoHistory.h"
 #include "io/MeshFiles.h"
 #include "io/PosixFileSystem.h"
-#include "scene/Transformed3d.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"

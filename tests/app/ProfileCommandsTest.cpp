@@ -1,8 +1,6 @@
 #include "app/ProfileCommands.h"
 
 #include "geometry/CPoint3D.h"
-#include "scene/Profile.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

@@ -2,9 +2,6 @@
 
 #include "app/SceneDocument.h"
 #include "app/SceneTreeListener.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
@@ -61,11 +58,7 @@ TEST(SceneTreeModel, ListsAreMadeWhenFirstNeededAndARebuildListsEveryKind) {
     SceneDocument document;
     document.solids = {makeObject()};
     document.workPlanes = {makeWorkPlane(2.5f, 0.5f, 0)};
-    document.profiles = {std::make_shared<Profile>()};
-    PointRecord record;
-    record.coord = Point4{1.5f, -2, 0, 1};
-    document.profiles[0]->addPointRecord(record);
-    document.profiles[0]->addPointRecord(record);
+    document.profiles = {makeProfile({{1.5f, -2, 0, 1}, {1.5f, -2, 0, 1}})};
     tree.SelectedItem = tree.findSceneNode("s1");
     listener.events.clear();
     tree.rebuildTree(document);

@@ -1,9 +1,6 @@
 #include "app/SelectedItemCommands.h"
 
 #include "geometry/ArithmeticError.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
@@ -14,10 +11,7 @@ using Host = ScriptedModalHost;
 TEST(SelectedItemCommands, ExtrudeMakesASolidOfEverySelectedProfileUntilOneFails) {
     TestWindow w;
     w.choose({"&Create", "&Extrusion"});
-    ASSERT_EQ(w.prompts.messages().size(), 1u);
-    EXPECT_EQ(w.prompts.messages()[0].text,
-              "Unable to extrude since no profiles were selected.  Please select profile before "
-              "extruding.");
+    ASSERT_EQ(w.prompts.messages().size(), 1u); // its text: the macro player's tests
     EXPECT_TRUE(w.dialogs.shown().empty());
 
     w.form.getSelection().setSelectedProfiles(

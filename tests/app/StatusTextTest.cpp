@@ -1,6 +1,5 @@
 #include "app/StatusText.h"
 
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 

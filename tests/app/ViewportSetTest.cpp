@@ -1,6 +1,5 @@
 #include "app/ViewportSet.h"
 
-#include "support/RecordingCanvas.h"
 #include "support/TestWindow.h"
 
 #include <gtest/gtest.h>

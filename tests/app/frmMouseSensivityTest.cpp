@@ -7,19 +7,16 @@
 TEST(frmMouseSensivity, ShowsTheSensitivityAsReciprocalAndPercentageAcceptSaysWhenItCannotSetIt) {
     // Halves go to even; what the bar cannot show goes to its nearer end. The left end is
     // where a new bar's thumb already stands; the label shows it all the same.
-    const struct {
-        float sensitivity;
-        int value;
-        const char* label;
-    } cases[] = {{0.0025f, 400, "Sensivity: 60%"},  {0.001f, 1000, "Sensivity: 0%"},
-                 {1 / 2.5f, 2, "Sensivity: 99.8%"}, {0.0003f, 1000, "Sensivity: 0%"},
-                 {0.0f, 1000, "Sensivity: 0%"},     {5.0f, 1, "Sensivity: 99.9%"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.sensitivity);
+    const std::tuple<float, int, const char*> cases[] = {
+        {0.0025f, 400, "Sensivity: 60%"},  {0.001f, 1000, "Sensivity: 0%"},
+        {1 / 2.5f, 2, "Sensivity: 99.8%"}, {0.0003f, 1000, "Sensivity: 0%"},
+        {0.0f, 1000, "Sensivity: 0%"},     {5.0f, 1, "Sensivity: 99.9%"}};
+    for (const auto& [sensitivity, value, label] : cases) {
+        SCOPED_TRACE(sensitivity);
         frmMouseSensivity dialog;
-        dialog.setSensivityDisplayValue(c.sensitivity);
-        EXPECT_EQ(dialog.HScroll1.Value, c.value);
-        EXPECT_EQ(dialog.lblSens.Caption, c.label);
+        dialog.setSensivityDisplayValue(sensitivity);
+        EXPECT_EQ(dialog.HScroll1.Value, value);
+        EXPECT_EQ(dialog.lblSens.Caption, label);
     }
 
     // Accept and Cancel with a window to call back are the main window's tests; without

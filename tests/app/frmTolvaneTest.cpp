@@ -3,8 +3,6 @@
 #include "app/ListChange.h"
 #include "interaction/ClickHandleScroll.h"
 #include "interaction/ClickHandleZoom.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
 #include "support/MemorySettings.h"
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
@@ -35,10 +33,8 @@ struct DragReturnsNone : ClickHandleNothing {
 // A main window whose document holds three cubes, each with its node in the tree.
 struct Window : TestWindow {
     Window() {
-        for (int n = 1; n <= 3; ++n) {
-            form.getDocument().solids.push_back(makeObject());
-            form.getSceneTree().addSolidNode(form.getDocument().solids.back(), n, "Solid");
-        }
+        form.getDocument().solids = {makeObject(), makeObject(), makeObject()};
+        form.rebuildTree();
     }
 
     SceneTreeNode& node(const std::string& key) { return *form.getSceneTree().findSceneNode(key); }

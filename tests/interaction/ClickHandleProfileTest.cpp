@@ -3,8 +3,7 @@
 #include "geometry/NumberText.h"
 #include "geometry/Rounding.h"
 #include "modelling/frmOrientation.h"
-#include "scene/Profile.h"
-#include "scene/WorkPlane.h"
+#include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
 #include <gtest/gtest.h>
@@ -18,8 +17,7 @@ constexpr int top = 0; // the top view: depth 0 is the plane y = 0
 struct Drawing : TestWindow {
     Drawing() {
         showFourViewports();
-        auto workPlane = std::make_shared<WorkPlane>();
-        workPlane->initialize(2, 0, 0, 0, 0);
+        const auto workPlane = makeWorkPlane(2, 0, 0);
         form.getDocument().workPlanes.push_back(workPlane);
         form.getSelection().setSelectedWorkplanes({workPlane});
         choose({"&Create", "&Profile"});
@@ -55,6 +53,7 @@ float valueOf(const RecordingCanvas::Call& text, const std::string& caption) {
 // of a workplane, and starts the rubber band all the same.
 TEST(ClickHandleProfile, ReadOutShowsThePointerAndAfterAClickItsDistanceAndTheRubberBand) {
     constexpr int front = 2;
+    const std::string axes[] = {"X", "Y", "Z"};
     const std::tuple<int, Point4, Point4> rows[] = {
         {top, {0.5f, 0, -0.25f, 1}, {1, 0, 0.5f, 1}},
         {front, {0.5f, 0.75f, 0, 1}, {-1, -0.25f, 0, 1}}};
@@ -69,10 +68,8 @@ TEST(ClickHandleProfile, ReadOutShowsThePointerAndAfterAClickItsDistanceAndTheRu
         auto texts = callsOf(canvas, RecordingCanvas::Kind::Text);
         ASSERT_EQ(texts.size(), 3u);
         EXPECT_TRUE(callsOf(canvas, RecordingCanvas::Kind::LineTo).empty());
-        const std::pair<const char*, float> pointer[] = {
-            {"X : ", from.x}, {"Y : ", from.y}, {"Z : ", from.z}};
-        for (size_t i = 0; i < 3; ++i) {
-            EXPECT_NEAR(valueOf(texts[i], pointer[i].first), pointer[i].second, 0.01f);
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_NEAR(valueOf(texts[i], axes[i] + " : "), from(i + 1), 0.01f);
         }
         // On the last lines, in 6 x 13 pixel cells on a 400 x 300 canvas, right-aligned.
         EXPECT_EQ(texts[2].points[0].y, 300 - 13);
@@ -87,14 +84,9 @@ TEST(ClickHandleProfile, ReadOutShowsThePointerAndAfterAClickItsDistanceAndTheRu
         EXPECT_EQ(callsOf(d.canvases[1], RecordingCanvas::Kind::Text).size(), 6u); // every view
         texts = callsOf(canvas, RecordingCanvas::Kind::Text);
         ASSERT_EQ(texts.size(), 6u);
-        const std::pair<const char*, float> lines[] = {{"X Dist: ", to.x - from.x},
-                                                       {"Y Dist: ", to.y - from.y},
-                                                       {"Z Dist: ", to.z - from.z},
-                                                       {"X : ", to.x},
-                                                       {"Y : ", to.y},
-                                                       {"Z : ", to.z}};
-        for (size_t i = 0; i < 6; ++i) {
-            EXPECT_NEAR(valueOf(texts[i], lines[i].first), lines[i].second, 0.01f);
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_NEAR(valueOf(texts[i], axes[i] + " Dist: "), to(i + 1) - from(i + 1), 0.01f);
+            EXPECT_NEAR(valueOf(texts[i + 3], axes[i] + " : "), to(i + 1), 0.01f);
         }
         EXPECT_EQ(texts[0].points[0].y, 300 - 6 * 13);
         EXPECT_EQ(texts[3].points[0].x, 400 - 6 * static_cast<int>(texts[3].text.size()));

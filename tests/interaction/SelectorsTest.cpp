@@ -2,9 +2,6 @@
 #include "interaction/ClickHandleProfileSelector.h"
 #include "interaction/ClickHandleSolidSelector.h"
 #include "interaction/ClickHandleWorkPlaneSelector.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
-#include "scene/WorkPlane.h"
 #include "support/TestSolids.h"
 #include "support/TestWindow.h"
 
@@ -29,8 +26,7 @@ struct Window : TestWindow {
     }
 
     std::shared_ptr<Transformed3d> addSolid(const std::shared_ptr<Solid3d>& solid, bool withNode) {
-        auto object = std::make_shared<Transformed3d>();
-        object->setSolid(solid);
+        const auto object = makeObject(solid);
         document().solids.push_back(object);
         if (withNode) {
             form.getSceneTree().addSolidNode(object, static_cast<int32_t>(document().solids.size()),
@@ -56,10 +52,8 @@ std::shared_ptr<Solid3d> twoStackedSquares() {
 TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     Window w;
     for (int i = 0; i < 2; ++i) {
-        auto workPlane = std::make_shared<WorkPlane>();
-        workPlane->initialize(2, 0, 0, 0, 0);
-        w.document().workPlanes.push_back(workPlane);
-        w.form.getSceneTree().addWorkplaneNode(workPlane, "Workplane");
+        w.document().workPlanes.push_back(makeWorkPlane(2, 0, 0));
+        w.form.getSceneTree().addWorkplaneNode(w.document().workPlanes.back(), "Workplane");
     }
     w.form.getMouse().setMouseMode(std::make_unique<ClickHandleWorkPlaneSelector>());
     w.clickAt(isometric, 0.1f, 0.2f, 0);
@@ -73,7 +67,7 @@ TEST(Selectors, OverlappingWorkplanesAreBothSelectedAndPaintedYellow) {
     EXPECT_EQ(w.form.getMouse().getMouseMode().getMouseIcon(), MousePointer::Crosshair);
 }
 
-TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
+TEST(Selectors, FacesOrSolidsOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     Window w;
     const auto upper = w.addSolid(makeCube(1), true);
     const auto lower = w.addSolid(makeCube(1, 0, -4, 0), true);
@@ -84,6 +78,9 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     w.prompts.queueAnswer(MessageAnswer::Yes);
     w.clickAt(top, 0.2f, 1, 0.3f);
     ASSERT_EQ(w.prompts.messages().size(), 1u);
+    EXPECT_EQ(w.prompts.messages()[0].text,
+              "The face selector has selected more than one face.  Do you want to keep them "
+              "both?  No will undo new selection.");
     EXPECT_EQ(w.prompts.messages()[0].title, "Multiple face selection");
     EXPECT_TRUE(upperTop->isSelected());
     EXPECT_TRUE(lowerTop->isSelected());
@@ -98,6 +95,18 @@ TEST(Selectors, FacesOfTwoSolidsUnderOneClickNeedTheUsersYes) {
     EXPECT_FALSE(lowerTop->isSelected());
     EXPECT_FALSE(w.form.getSelection().isPropertyMenuEnabled());
     EXPECT_EQ(w.node("f5-s1").BackColor, 16776960);
+
+    // Solids ask their own question under the same title.
+    w.form.getMouse().setMouseMode(std::make_unique<ClickHandleSolidSelector>());
+    w.prompts.queueAnswer(MessageAnswer::Yes);
+    w.clickAt(top, 0.2f, 1, 0.3f);
+    ASSERT_EQ(w.prompts.messages().size(), 3u);
+    EXPECT_EQ(w.prompts.messages()[2].text,
+              "The solid selector has selected more than one solid.  Do you want to keep them "
+              "both?  No will undo new selection.");
+    EXPECT_EQ(w.prompts.messages()[2].title, "Multiple face selection");
+    EXPECT_EQ(w.form.getSelection().selectedSolids.size(), 2u);
+    EXPECT_TRUE(lower->isSelected());
 }
 
 // Two faces of one solid under the click select it once; a solid without a tree node is

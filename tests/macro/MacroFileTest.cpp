@@ -4,7 +4,6 @@
 #include "support/FaultyFileSystem.h"
 #include "support/TempFolder.h"
 
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

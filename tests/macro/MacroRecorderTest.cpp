@@ -24,15 +24,15 @@ TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
     form.Form_Load();
     form.Form_Resize(900, 500);
 
-    const auto choose = [&](const std::vector<std::string>& path) {
-        form.getMenus().getMenuBar().findPath(path)->click();
-    };
     // A refused size first: the dialog's message box is answered inside the dialog.
     w.dialogs.queueDialog({Host::type("Text1", "x"), Host::type("Text2", "0"),
                            Host::type("Text3", "0"), Host::type("Text5", "0"),
                            Host::press("mnuAccept"), Host::type("Text1", "3"),
                            Host::press("mnuAccept")});
-    choose({"&Create", "&WorkPlane", "&Parameter Creation"});
+    form.getMenus()
+        .getMenuBar()
+        .findPath({"&Create", "&WorkPlane", "&Parameter Creation"})
+        ->click();
     form.TreeView1_NodeClick(*form.getSceneTree().findSceneNode("w1"));
     w.dialogs.queueDialog({Host::press("mnuCancel")});
     form.Form_KeyDown(13);
@@ -43,7 +43,7 @@ TEST(MacroRecorder, WritesWhatAReplayPlaysBackToTheSameState) {
     });
     form.picOrtho_MouseDown(3, 2, 0, 10, 10);
     w.files.queueAnswer("");
-    choose({"&File", "&Open"});
+    form.getMenus().getMenuBar().findPath({"&File", "&Open"})->click();
     form.TreeView1_KeyDown(frmTolvane::keyCodeDelete);
 
     MacroFile macro(text.str());

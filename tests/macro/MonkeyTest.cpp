@@ -9,7 +9,6 @@
 #include "support/HistoryInvariants.h"
 #include "support/TestScale.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -49,13 +48,9 @@ std::string playMonkey(uint64_t seed, long actions, const fs::path& folder, bool
         monkey.watch(editor.form);
         try {
             while (failure.empty() && editor.player.step()) {
-                failure = brokenInvariant(editor.form);
-                if (failure.empty()) {
-                    failure = history.check();
-                }
-                if (!failure.empty()) {
-                    failure = monkey.where() + ": " + failure;
-                }
+                std::string broken = brokenInvariant(editor.form);
+                broken = broken.empty() ? history.check() : broken;
+                failure = broken.empty() ? "" : monkey.where() + ": " + broken;
             }
         } catch (const std::exception& error) {
             failure = error.what();

@@ -13,10 +13,7 @@ TEST(frmAdditionalExtrusions, SelectAsksTheThreeValuesOfTheChosenKindAndNothingW
     EXPECT_EQ(none.getFunction(), "");
     EXPECT_TRUE(prompts.inputBoxes().empty());
 
-    for (const auto& answer : {std::optional<std::string>("2"), std::optional<std::string>(),
-                               std::optional<std::string>(" 0.5")}) {
-        prompts.queueInput(answer);
-    }
+    prompts.queueInput("2", std::nullopt, " 0.5");
     frmAdditionalExtrusions picker;
     picker.pickListLine("List1", 2);
     picker.press("mnuSelect");

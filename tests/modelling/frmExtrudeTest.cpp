@@ -3,8 +3,6 @@
 #include "app/ViewportSet.h"
 #include "geometry/PackedColor.h"
 #include "modelling/ExtrusionPreviewTarget.h"
-#include "scene/Profile.h"
-#include "scene/Transformed3d.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
@@ -177,9 +175,7 @@ TEST_F(frmExtrudeTest, AProfileWithoutANormalOrNoProfileClosesTheDialog) {
 }
 
 TEST_F(frmExtrudeTest, TheListButtonsAddRemoveAndMoveWithWrapAround) {
-    for (const char* answer : {"2", "2", "1"}) {
-        prompts.queueInput(answer);
-    }
+    prompts.queueInput("2", "2", "1");
     dialogs.queueDialog({Host::pick("List1", 2), Host::press("mnuSelect")});
     dialogs.queueDialog({Host::press("mnuCancel")});
     form.press("cmdAddTrans");

@@ -20,14 +20,8 @@ COrientation guess(int32_t code) {
 // The guess is shown with its option ticked; the user's last choice is confirmed, and
 // Confirm without a choice asks for one and leaves the dialog open. Cancel confirms nothing.
 TEST(frmOrientation, ShowsTheGuessAndConfirmsTheLastChoice) {
-    struct Row {
-        int32_t guess;
-        const char* caption;
-        std::vector<User::Step> steps;
-        bool confirmed;
-        int32_t orientation;
-    };
-    const Row rows[] = {
+    // The guess, its caption, the user's steps, whether confirmed and the orientation then.
+    const std::tuple<int32_t, const char*, std::vector<User::Step>, bool, int32_t> rows[] = {
         {-1,
          "Unknown",
          {User::choose("optCW"), User::choose("optCCW"), User::press("mnuConfirm")},
@@ -39,18 +33,18 @@ TEST(frmOrientation, ShowsTheGuessAndConfirmsTheLastChoice) {
         {-1, "Unknown", {User::press("mnuConfirm"), User::press("mnuCancel")}, false, -1},
     };
     ScriptedPrompts prompts;
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.caption);
+    for (const auto& [code, caption, steps, confirmed, orientation] : rows) {
+        SCOPED_TRACE(caption);
         ScriptedModalHost host;
         frmOrientation dialog;
-        dialog.initialize(guess(row.guess));
-        EXPECT_EQ(dialog.lblGuessOrientation.Caption, row.caption);
-        EXPECT_EQ(dialog.optCW.Value, row.guess == 1);
-        EXPECT_EQ(dialog.optCCW.Value, row.guess == 2);
-        host.queueDialog(row.steps);
+        dialog.initialize(guess(code));
+        EXPECT_EQ(dialog.lblGuessOrientation.Caption, caption);
+        EXPECT_EQ(dialog.optCW.Value, code == 1);
+        EXPECT_EQ(dialog.optCCW.Value, code == 2);
+        host.queueDialog(steps);
         host.showModal(dialog);
-        EXPECT_EQ(dialog.hasConfirmed(), row.confirmed);
-        EXPECT_EQ(dialog.getOrientation().getOrientation(), row.orientation);
+        EXPECT_EQ(dialog.hasConfirmed(), confirmed);
+        EXPECT_EQ(dialog.getOrientation().getOrientation(), orientation);
     }
     ASSERT_EQ(prompts.messages().size(), 1u);
     EXPECT_EQ(prompts.messages()[0].text, "Please select a profile orientation.");

@@ -57,10 +57,7 @@ TEST_F(frmProfilePropertyOnABC, UpAndDownWrapAroundAndKeepTheMovedPointSelected)
 
 TEST_F(frmProfilePropertyOnABC, PointEntryAsksAgainForTextsThatAreNoNumbersAndGivesUpWhenEmpty) {
     // x is asked again after "abc"; an empty y, or a cancelled z, adds nothing.
-    for (const auto& answer : std::vector<std::optional<std::string>>{
-             "abc", "4", "", "4", "5", std::nullopt, "4", " -5 ", "6e0"}) {
-        prompts.queueInput(answer);
-    }
+    prompts.queueInput("abc", "4", "", "4", "5", std::nullopt, "4", " -5 ", "6e0");
     for (int i = 0; i < 3; ++i) {
         dialog.press("cmdAdd");
     }
@@ -78,9 +75,7 @@ TEST_F(frmProfilePropertyOnABC, PointEntryAsksAgainForTextsThatAreNoNumbersAndGi
 
 TEST_F(frmProfilePropertyOnABC, ModifyChangesTheSharedPointAtOnceEvenWhenCancelled) {
     dialog.pickListLine("listPointIndex", 0);
-    for (const char* answer : {"7", "8", "9"}) {
-        prompts.queueInput(answer);
-    }
+    prompts.queueInput("7", "8", "9");
     host.queueDialog({User::press("cmdModify"), User::pick("listPointIndex", 2),
                       User::press("cmdRemove"), User::press("mnuCancel")});
     host.showModal(dialog);

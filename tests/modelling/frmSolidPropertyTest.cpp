@@ -1,12 +1,10 @@
 #include "modelling/frmSolidProperty.h"
 
 #include "geometry/PackedColor.h"
-#include "scene/Transformed3d.h"
 #include "support/ScriptedChoosers.h"
 #include "support/TestSolids.h"
 
 #include <gtest/gtest.h>
-#include <string>
 
 namespace {
 

@@ -17,12 +17,9 @@ bool holds(const std::vector<std::shared_ptr<Item>>& items, const std::shared_pt
 template <class Item>
 std::string strangers(const std::vector<std::shared_ptr<Item>>& selected,
                       const std::vector<std::shared_ptr<Item>>& items, const std::string& kind) {
-    for (const auto& item : selected) {
-        if (!holds(items, item)) {
-            return "a selected " + kind + " is not in the document";
-        }
-    }
-    return "";
+    const bool held =
+        std::ranges::all_of(selected, [&](const auto& item) { return holds(items, item); });
+    return held ? "" : "a selected " + kind + " is not in the document";
 }
 
 std::string facesOf(const Transformed3d& object, size_t number) {

@@ -3,6 +3,7 @@
 #include "app/frmTolvane.h"
 #include "io/TavrinMeshIO.h"
 
+#include <algorithm>
 #include <functional>
 #include <string_view>
 
@@ -27,12 +28,8 @@ void HistoryInvariants::restart(Bytes bytes) {
 }
 
 bool HistoryInvariants::said(const std::string& start) const {
-    for (const std::string& status : statuses_) {
-        if (status.starts_with(start)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(statuses_,
+                               [&](const auto& status) { return status.starts_with(start); });
 }
 
 std::string HistoryInvariants::check() {

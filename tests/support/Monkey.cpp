@@ -4,6 +4,8 @@
 #include "platform/Canvas.h"
 #include "platform/ModalDialog.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -32,9 +34,13 @@ const std::vector<MessageAnswer> unsavedWorkAnswers = {MessageAnswer::Save, Mess
                                                        MessageAnswer::Cancel};
 const std::vector<int> keys = {13, 67, 69, 13, 67, 69, 0, 27, 46, 65, 112};
 
+bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
+
 // The leaves of the menu under item that a user can choose, by caption path.
-void leaves(const MenuItem& item, std::vector<std::string>& path,
-            std::vector<std::vector<std::string>>& found) {
+void leaves(const MenuItem& item, std::vector<std::vector<std::string>>& found,
+            std::vector<std::string> path = {}) {
     for (const auto& child : item.getChildren()) {
         if (child->isSeparator() || !child->isEnabled() || !child->isVisible() ||
             child->getName() == "mnuFileExit") {
@@ -44,19 +50,20 @@ void leaves(const MenuItem& item, std::vector<std::string>& path,
         if (child->getChildren().empty()) {
             found.push_back(path);
         } else {
-            leaves(*child, path, found);
+            leaves(*child, found, path);
         }
         path.pop_back();
     }
 }
 
 // Every node of the tree made so far, with the texts of its path.
-void nodes(const SceneTreeNode& node, std::vector<std::string>& path,
-           std::vector<std::pair<std::string, std::vector<std::string>>>& found) {
+void nodes(const SceneTreeNode& node,
+           std::vector<std::pair<std::string, std::vector<std::string>>>& found,
+           std::vector<std::string> path = {}) {
     for (const auto& child : node.children()) {
         path.push_back(child->text);
         found.emplace_back(child->key, path);
-        nodes(*child, path, found);
+        nodes(*child, found, path);
         path.pop_back();
     }
 }
@@ -92,19 +99,14 @@ std::optional<MacroAction> Monkey::next(const Waiting& waiting) {
             return macro::Message{chance(50) ? MessageAnswer::Yes : MessageAnswer::No};
         }
     case Waiting::Kind::Input:
-        if (chance(15)) {
-            return macro::Input{std::nullopt};
-        }
-        return macro::Input{chance(75) ? oneOf(sensibleTexts) : oneOf(hostileTexts)};
+        return chance(15) ? macro::Input{std::nullopt}
+                          : macro::Input{chance(75) ? oneOf(sensibleTexts) : oneOf(hostileTexts)};
     case Waiting::Kind::File:
         return macro::File{chance(20) ? std::string() : path()};
     case Waiting::Kind::Color:
         return macro::Color{chance(20) ? -1 : between(0, 0xFFFFFF)};
     case Waiting::Kind::Popup:
-        if (chance(15)) {
-            return std::nullopt;
-        }
-        return menu(form_->getMenus().getPopupMenu(), true);
+        return chance(15) ? std::nullopt : menu(form_->getMenus().getPopupMenu(), true);
     }
     return std::nullopt;
 }
@@ -149,12 +151,12 @@ MacroAction Monkey::windowAction() {
         // (the profile was not made, say) ends it.
         MacroAction step = std::move(planned_.front());
         planned_.pop_front();
-        if (const auto* click = std::get_if<macro::TreeClick>(&step);
-            click != nullptr && !form_->getSceneTree().findSceneNode(click->key)) {
-            planned_.clear();
-        } else if (const auto* chosen = std::get_if<macro::Menu>(&step);
-                   chosen != nullptr && form_->getMenus().getMenuBar().findPath(chosen->path) &&
-                   !form_->getMenus().getMenuBar().findPath(chosen->path)->isEnabled()) {
+        const auto* click = std::get_if<macro::TreeClick>(&step);
+        const auto* chosen = std::get_if<macro::Menu>(&step);
+        const MenuItem* item =
+            chosen ? form_->getMenus().getMenuBar().findPath(chosen->path) : nullptr;
+        if ((click && !form_->getSceneTree().findSceneNode(click->key)) ||
+            (item && !item->isEnabled())) {
             planned_.clear();
         } else {
             return step;
@@ -200,15 +202,11 @@ std::optional<MacroAction> Monkey::undoRun() {
 }
 
 float Monkey::coordinate(int size) {
-    const int roll = between(1, 100);
-    if (roll <= 85) {
-        return static_cast<float>(between(0, std::max(size - 1, 0)));
-    }
-    if (roll <= 97) {
-        return static_cast<float>(between(-60, size + 60));
-    }
     const float far[] = {-1e6f, 1e6f, 3e9f, -3e9f, 1e30f, 0.5f};
-    return far[between(0, 5)];
+    const int roll = between(1, 100);
+    return roll <= 85   ? static_cast<float>(between(0, std::max(size - 1, 0)))
+           : roll <= 97 ? static_cast<float>(between(-60, size + 60))
+                        : far[between(0, 5)];
 }
 
 MacroAction Monkey::mouse() {
@@ -241,22 +239,17 @@ MacroAction Monkey::mouse() {
 
 std::optional<MacroAction> Monkey::treeClick() {
     std::vector<std::pair<std::string, std::vector<std::string>>> found;
-    std::vector<std::string> path;
-    nodes(form_->getSceneTree().root(), path, found);
+    nodes(form_->getSceneTree().root(), found);
     if (found.empty()) {
         return std::nullopt;
     }
     const auto& [key, texts] = oneOf(found);
-    if (!key.empty() && chance(90)) {
-        return macro::TreeClick{key, {}};
-    }
-    return macro::TreeClick{"", texts};
+    return !key.empty() && chance(90) ? macro::TreeClick{key, {}} : macro::TreeClick{"", texts};
 }
 
 std::optional<MacroAction> Monkey::menu(const MenuItem& root, bool popup) {
     std::vector<std::vector<std::string>> found;
-    std::vector<std::string> path;
-    leaves(root, path, found);
+    leaves(root, found);
     if (found.empty()) {
         return std::nullopt;
     }
@@ -283,7 +276,7 @@ MacroAction Monkey::dialogAction(const ModalDialog& dialog) {
         usable.push_back(control);
         if (control.verb == Verb::Press) {
             buttons.push_back(control.name);
-            if (control.name.find("Cancel") != std::string::npos) {
+            if (contains(control.name, "Cancel")) {
                 cancels.push_back(control.name);
             }
         }
@@ -325,25 +318,20 @@ MacroAction Monkey::dialogAction(const ModalDialog& dialog) {
 
 std::string Monkey::text(const std::string& control) {
     // Subdivisions make work in proportion: keep them small but for the odd hostile one.
-    if (control.find("Incr") != std::string::npos) {
+    if (contains(control, "Incr")) {
         return chance(90) ? std::to_string(between(1, 12)) : oneOf(hostileTexts);
     }
     return chance(70) ? oneOf(sensibleTexts) : oneOf(hostileTexts);
 }
 
 std::string Monkey::path() {
+    // A name too long for any file system is refused alike wherever the macro is replayed.
     const int roll = between(1, 100);
-    if (roll <= 60) {
-        return folder_ + "/scene" + std::to_string(between(1, 3)) + ".tvm";
-    }
-    if (roll <= 75) {
-        // Too long for any file system: refused alike wherever the macro is replayed.
-        return folder_ + "/" + std::string(300, 'n') + ".tvm";
-    }
-    if (roll <= 90) {
-        return folder_ + "/scene.txt";
-    }
-    return folder_ + "/\x01odd name\x7f.tvm";
+    return folder_ + "/" +
+           (roll <= 60   ? "scene" + std::to_string(between(1, 3)) + ".tvm"
+            : roll <= 75 ? std::string(300, 'n') + ".tvm"
+            : roll <= 90 ? "scene.txt"
+                         : "\x01odd name\x7f.tvm");
 }
 
 MacroAction Monkey::fillIn(const ModalDialog& dialog) {
@@ -351,8 +339,8 @@ MacroAction Monkey::fillIn(const ModalDialog& dialog) {
     int textBox = 0;
     for (const auto& control : controls) {
         if (control.verb == Verb::Type && control.enabled && ++textBox == dialogActions_) {
-            const bool steps = control.name.find("Incr") != std::string::npos;
             const std::vector<std::string> values = {"1", "2", "0.5", "3", "1.5", "0.25"};
+            const bool steps = contains(control.name, "Incr");
             return macro::Dialog{dialog.caption(),
                                  {Verb::Type, control.name,
                                   steps ? std::to_string(between(1, 8)) : oneOf(values), 0}};
@@ -362,18 +350,12 @@ MacroAction Monkey::fillIn(const ModalDialog& dialog) {
     std::vector<std::string> accepting;
     std::vector<std::string> others;
     for (const auto& control : controls) {
-        if (control.verb != Verb::Press || !control.enabled) {
-            continue;
+        const auto named = [&](const char* word) { return contains(control.name, word); };
+        if (control.verb == Verb::Press && control.enabled && !named("Cancel")) {
+            const bool accepts = std::ranges::any_of(
+                std::array{"Accept", "OK", "Extrude", "Confirm", "Select"}, named);
+            (accepts ? accepting : others).push_back(control.name);
         }
-        const std::string& name = control.name;
-        if (name.find("Cancel") != std::string::npos) {
-            continue;
-        }
-        const bool accepts =
-            name.find("Accept") != std::string::npos || name.find("OK") != std::string::npos ||
-            name.find("Extrude") != std::string::npos ||
-            name.find("Confirm") != std::string::npos || name.find("Select") != std::string::npos;
-        (accepts ? accepting : others).push_back(name);
     }
     filling_ = false; // what follows (a refusal, a nested dialog) is played at random
     const std::vector<std::string>& buttons = accepting.empty() ? others : accepting;

@@ -43,11 +43,10 @@ public:
         for (const QLineF& edge : edges_) {
             const QPointF d = edge.p2() - edge.p1();
             const double length2 = QPointF::dotProduct(d, d);
-            const double t =
-                length2 == 0
-                    ? 0
-                    : std::clamp(QPointF::dotProduct(QPointF(x, y) - edge.p1(), d) / length2, 0.0,
-                                 1.0);
+            // A face's corners lie on whole pixels: an edge has no length, or at least 1.
+            const double t = std::clamp(QPointF::dotProduct(QPointF(x, y) - edge.p1(), d) /
+                                            std::max(length2, 0.5),
+                                        0.0, 1.0);
             const QPointF nearest = edge.p1() + t * d;
             if (std::hypot(nearest.x() - x, nearest.y() - y) <= 1.0) {
                 return true;

@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 // A file chooser that answers from a queue the test fills (cancelling when it runs dry)

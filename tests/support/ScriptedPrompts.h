@@ -42,7 +42,10 @@ public:
     }
 
     void queueAnswer(MessageAnswer answer) { answers_.push(answer); }
-    void queueInput(std::optional<std::string> input) { inputs_.push(std::move(input)); }
+    // The answers of the next input boxes, in turn; std::nullopt cancels.
+    template <class... Inputs> void queueInput(Inputs... inputs) {
+        (inputs_.push(std::optional<std::string>(inputs)), ...);
+    }
 
     const std::vector<Message>& messages() const { return messages_; }
     // Every input box asked, with its title and default text.

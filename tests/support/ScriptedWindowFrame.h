@@ -1,12 +1,9 @@
 #pragma once
 
 #include "platform/WindowFrame.h"
-#include "support/AnswerQueue.h"
 #include "support/ScriptedChoosers.h"
 
 #include <functional>
-#include <string>
-#include <vector>
 
 // A window frame that records the pointers it is given and answers a pop-up menu by running
 // what the test queued (nothing chosen when the queue is dry).

@@ -1,7 +1,5 @@
 #include "support/TestSolids.h"
 
-#include <vector>
-
 std::shared_ptr<Solid3d> makeCube(float h, float cx, float cy, float cz) {
     auto cube = std::make_shared<Solid3d>();
     const float corners[8][3] = {{-h, -h, -h}, {h, -h, -h}, {h, h, -h}, {-h, h, -h},

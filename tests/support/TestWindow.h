@@ -4,15 +4,12 @@
 #include "geometry/M3Ops.h"
 #include "render/KorvanOpsConsts.h"
 #include "support/RecordingCanvas.h"
-#include "support/ScriptedChoosers.h"
 #include "support/ScriptedModalHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/ScriptedWindowFrame.h"
 
 #include <array>
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 // The top nodes of the scene tree as "key: text".
 inline std::vector<std::string> topNodes(const SceneTreeModel& tree) {
