@@ -86,6 +86,14 @@ protected:
                 readAll(dir_ / "stderr")};
     }
 
+    // Runs the tool, expecting it to succeed without a word on standard error.
+    Outcome succeed(const std::string& arguments, const std::string& limits = "") const {
+        Outcome outcome = run(arguments, "", limits);
+        EXPECT_EQ(outcome.status, 0) << arguments;
+        EXPECT_EQ(outcome.err, "") << arguments;
+        return outcome;
+    }
+
     TempFolder folder_;
     const fs::path dir_ = folder_.path;
     // The scene file, as a path and as an argument.
@@ -96,22 +104,18 @@ protected:
 } // namespace
 
 TEST_F(CliEndToEnd, RendersPngAndDescribesTheFile) {
-    const Outcome png = run("render " + scene_ + " -o " + at("iso.png") + " --size 320x240");
-    EXPECT_EQ(png.status, 0);
-    EXPECT_EQ(png.out + png.err, "");
+    EXPECT_EQ(succeed("render " + scene_ + " -o " + at("iso.png") + " --size 320x240").out, "");
     const QImage image = QImage((dir_ / "iso.png").c_str()).convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(image.size(), QSize(320, 240));
     QImage flat = image.copy();
     flat.fill(image.pixel(0, 0));
     EXPECT_NE(image, flat);
 
-    const Outcome info = run("info " + scene_);
-    EXPECT_EQ(info.status, 0);
-    EXPECT_EQ(info.err, "");
     // Each prism: its five curve points at two heights, two triangles a side and two caps.
-    EXPECT_EQ(info.out, "{\"file\": \"" + path_ +
-                            "\", \"objects\": 2, \"items\": [{\"points\": 10, \"faces\": 10}, "
-                            "{\"points\": 10, \"faces\": 10}]}\n");
+    EXPECT_EQ(succeed("info " + scene_).out,
+              "{\"file\": \"" + path_ +
+                  "\", \"objects\": 2, \"items\": [{\"points\": 10, \"faces\": 10}, "
+                  "{\"points\": 10, \"faces\": 10}]}\n");
     const Outcome help = run("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.out.starts_with("Usage: korvan-cli render"));
@@ -253,25 +257,19 @@ TEST_F(CliEndToEnd, FailuresAreOneLineWithNonZeroStatusAndWriteNothing) {
 
 TEST_F(CliEndToEnd, ConvertsTwistedRecolouredSolidsThroughObjAndPlyBackToTheSameFile) {
     std::ofstream(dir_ / "diamond.txt") << diamond;
-    ASSERT_EQ(run("extrude " + at("diamond.txt") +
-                  " --subdivisions 3 --transform 'Rotate(0,0,0.6)' --diffuse 200,30,90 "
-                  "--specular-k 37 --specular-n 12 --add-to " +
-                  scene_ + " -o " + at("twisted.tvm"))
-                  .status,
-              0);
+    succeed("extrude " + at("diamond.txt") +
+            " --subdivisions 3 --transform 'Rotate(0,0,0.6)' --diffuse 200,30,90 --specular-k 37 "
+            "--specular-n 12 --add-to " +
+            scene_ + " -o " + at("twisted.tvm"));
     for (const std::string mesh : {"twisted.obj", "twisted.PLY"}) {
-        const Outcome there = run("convert " + at("twisted.tvm") + " " + at(mesh));
-        EXPECT_EQ(there.status, 0) << mesh;
-        EXPECT_EQ(there.err, "") << mesh;
-        const Outcome back = run("convert " + at(mesh) + " " + at("back.tvm"));
-        EXPECT_EQ(back.status, 0) << mesh;
-        EXPECT_EQ(back.err, "") << mesh;
+        succeed("convert " + at("twisted.tvm") + " " + at(mesh));
+        succeed("convert " + at(mesh) + " " + at("back.tvm"));
         EXPECT_EQ(readAll(dir_ / "back.tvm"), readAll(dir_ / "twisted.tvm")) << mesh;
     }
     EXPECT_TRUE(readAll(dir_ / "twisted.mtl").starts_with("# Written by Korvan"));
     // Binary STL holds 50 bytes per triangle it counts; --ascii asks for its text form.
-    ASSERT_EQ(run("convert " + at("twisted.tvm") + " " + at("twisted.stl")).status, 0);
-    ASSERT_EQ(run("convert " + at("twisted.tvm") + " " + at("text.stl") + " --ascii").status, 0);
+    succeed("convert " + at("twisted.tvm") + " " + at("twisted.stl"));
+    succeed("convert " + at("twisted.tvm") + " " + at("text.stl") + " --ascii");
     const std::string binary = readAll(dir_ / "twisted.stl");
     ASSERT_GE(binary.size(), 84u);
     EXPECT_EQ(binary.size(),
@@ -280,18 +278,12 @@ TEST_F(CliEndToEnd, ConvertsTwistedRecolouredSolidsThroughObjAndPlyBackToTheSame
     EXPECT_TRUE(readAll(dir_ / "text.stl").starts_with("solid korvan\n facet normal"));
 }
 
+// Swapped twice, the two prisms are the scene again; a solid left out would be missing.
 TEST_F(CliEndToEnd, ConvertSelectedWritesOnlyTheNamedSolidsInTheGivenOrder) {
-    ASSERT_EQ(run("convert " + scene_ + " " + at("second.tvm") + " --selected 2").status, 0);
-    ASSERT_EQ(run("convert " + scene_ + " " + at("swapped.tvm") + " --selected 2,1").status, 0);
-    const auto scene = openScene(path_);
-    const auto second = openScene(dir_ / "second.tvm");
-    const auto swapped = openScene(dir_ / "swapped.tvm");
-    ASSERT_EQ(second.size(), 1u);
-    ASSERT_EQ(swapped.size(), 2u);
-    EXPECT_EQ(second[0]->getPoints()[0]->getRecord().coord.x,
-              scene[1]->getPoints()[0]->getRecord().coord.x);
-    EXPECT_EQ(swapped[0]->getPoints()[0]->getRecord().coord.x,
-              scene[1]->getPoints()[0]->getRecord().coord.x);
+    succeed("convert " + scene_ + " " + at("swapped.tvm") + " --selected 2,1");
+    succeed("convert " + at("swapped.tvm") + " " + at("back.tvm") + " --selected 2,1");
+    EXPECT_NE(readAll(dir_ / "swapped.tvm"), readAll(path_));
+    EXPECT_EQ(readAll(dir_ / "back.tvm"), readAll(path_));
 }
 
 TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {
@@ -299,21 +291,13 @@ TEST_F(CliEndToEnd, InfoAndRenderTakeMemoryInProportionToTheFile) {
     GTEST_SKIP() << "the address sanitizer's shadow memory alone exceeds the limit";
 #endif
     // 300,000 objects without points or faces: 2.4 MB, where building them all would take
-    // over 100 MB.
-    const int32_t count = 300000;
-    std::string bytes(4 + 8 * static_cast<size_t>(count), '\0');
-    for (int i = 0; i < 4; ++i) {
-        bytes[static_cast<size_t>(i)] = static_cast<char>(count >> (8 * i));
-    }
-    std::ofstream(dir_ / "many.tvm", std::ios::binary) << bytes;
-    const Outcome info = run("info " + at("many.tvm"), "", memoryLimit);
-    EXPECT_EQ(info.status, 0);
-    EXPECT_TRUE(info.out.starts_with("{\"file\": \"" + (dir_ / "many.tvm").string() +
+    // over 100 MB. The count, 0x000493E0, is stored little-endian.
+    std::ofstream(dir_ / "many.tvm", std::ios::binary)
+        << std::string("\xE0\x93\x04\0", 4) + std::string(8 * 300000, '\0');
+    EXPECT_TRUE(succeed("info " + at("many.tvm"), memoryLimit)
+                    .out.starts_with("{\"file\": \"" + (dir_ / "many.tvm").string() +
                                      "\", \"objects\": 300000, \"items\": [{\"points\": 0, "));
-    const Outcome render =
-        run("render " + at("many.tvm") + " -o " + at("many.svg"), "", memoryLimit);
-    EXPECT_EQ(render.status, 0);
-    EXPECT_EQ(info.err + render.err, "");
+    succeed("render " + at("many.tvm") + " -o " + at("many.svg"), memoryLimit);
 }
 
 // A refusal the superuser who runs the build never meets, injected in the tool's file calls,
@@ -335,12 +319,12 @@ TEST_F(CliEndToEnd, RefusedFilesAndAFailingStandardOutputAreNamedAsSuch) {
 TEST_F(CliEndToEnd, ExtrudesAProfileAsTheDialogDoesAfterTheScenesSolids) {
     // Out of the other side, from a CRLF file with a blank line, after the two prisms.
     std::ofstream(dir_ / "crlf.txt") << "0 0 0\r\n1 1 0\r\n\r\n0\t2 0\r\n-1 1 0\r\n0 0 0";
-    const Outcome added =
-        run("extrude " + at("crlf.txt") + " --mode out --length 2 --no-caps --diffuse 255,0,128" +
-            " --transform 'Scale(0.5,0.5,0.5)' --specular-k 37 -o " + at("added.tvm") +
-            " --add-to " + scene_);
-    EXPECT_EQ(added.status, 0);
-    EXPECT_EQ(added.out + added.err, "");
+    EXPECT_EQ(succeed("extrude " + at("crlf.txt") +
+                      " --mode out --length 2 --no-caps --diffuse 255,0,128 --transform "
+                      "'Scale(0.5,0.5,0.5)' --specular-k 37 -o " +
+                      at("added.tvm") + " --add-to " + scene_)
+                  .out,
+              "");
     const auto scene = openScene(dir_ / "added.tvm");
     ASSERT_EQ(scene.size(), 3u);
     // One segment for the translation and one for the scaling, no caps.
@@ -383,10 +367,8 @@ TEST_F(CliEndToEnd, ReplaysAnEditorSessionToTheFileTheEditorSaved) {
     std::ofstream(dir_ / "session.macro") << macro;
     fs::create_directories(dir_ / "sandbox");
 
-    const Outcome outcome = run("replay " + at("session.macro") + " -o " + at("replayed.tvm") +
-                                " --svg-dir " + at("") + " --sandbox " + at("sandbox"));
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.err, "");
+    succeed("replay " + at("session.macro") + " -o " + at("replayed.tvm") + " --svg-dir " + at("") +
+            " --sandbox " + at("sandbox"));
     EXPECT_EQ(readAll(dir_ / "sandbox" / "saved.tvm"), editorFile);
     EXPECT_EQ(readAll(dir_ / "replayed.tvm"), editorFile);
     // The one viewport shown draws the solids; the hidden ones are only projected.
