@@ -113,10 +113,7 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
                                  "property float y\nproperty float z\nproperty uint korvan_solid\n"
                                  "element face 1\nproperty list uchar int vertex_indices\n"
                                  "property int korvan_solid\nend_header\n";
-    const struct {
-        std::string file;
-        std::string message;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"", "not a PLY file"},
         {"ply\nformat ascii 1.0\nelement vertex 1\n", "the header has no end_header line"},
         {"ply\nformat ascii 1.0\nelement vertex 1\nproperty flaot x\nend_header\n",
@@ -153,8 +150,8 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
         {"ply\nformat ascii 1.0\nelement junk 1000000\nend_header\n",
          "element junk has no properties"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(refusal([&] { PlyReader::parse(bytesOf(c.file)); }), c.message) << c.file;
+    for (const auto& [file, message] : cases) {
+        EXPECT_EQ(refusal([&] { PlyReader::parse(bytesOf(file)); }), message) << file;
     }
 }
 
@@ -188,10 +185,10 @@ TEST(MeshFormats, BadObjFilesAreRefusedWithOneLine) {
     for (int i = 0; i < 17; ++i) {
         shared += "o\nf 1 2\n";
     }
-    const struct {
-        std::string file;
-        std::string message;
-    } cases[] = {
+    const auto badLibrary = [](const std::string&) {
+        return std::optional<std::string>("newmtl a\nNs 40000\n");
+    };
+    const std::pair<std::string, std::string> cases[] = {
         {"v 0 0 0\nf 1 2 1\n", "a face uses vertex 2 of 1"},
         {"v 0 0 0\n\nv 0 x 0\n", "line 3: 'x' is not a finite number"},
         {"v 0 0 0\nv 1e39 0 0\n", "line 2: '1e39' is not a finite number"},
@@ -202,14 +199,8 @@ TEST(MeshFormats, BadObjFilesAreRefusedWithOneLine) {
         {"mtllib a.mtl\n", "a.mtl line 2: the specular exponent is out of range"},
         {shared, "the objects share too many vertices"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(refusal([&] {
-                      ObjReader::parse(c.file, [](const std::string&) {
-                          return std::optional<std::string>("newmtl a\nNs 40000\n");
-                      });
-                  }),
-                  c.message)
-            << c.file;
+    for (const auto& [file, message] : cases) {
+        EXPECT_EQ(refusal([&] { ObjReader::parse(file, badLibrary); }), message) << file;
     }
 }
 
