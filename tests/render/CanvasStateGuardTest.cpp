@@ -6,18 +6,17 @@
 
 TEST(CanvasStateGuard, PutsBackEveryStyleAndColour) {
     RecordingCanvas canvas;
-    canvas.setFillStyle(FillDiagonalCross);
-    canvas.setDrawStyle(DrawInvisible);
-    canvas.setForeColor(1);
-    canvas.setFillColor(2);
-    canvas.setBackColor(3);
+    const auto setAll = [&canvas](int fillStyle, int drawStyle, int32_t colour) {
+        canvas.setFillStyle(fillStyle);
+        canvas.setDrawStyle(drawStyle);
+        canvas.setForeColor(colour);
+        canvas.setFillColor(colour + 1);
+        canvas.setBackColor(colour + 2);
+    };
+    setAll(FillDiagonalCross, DrawInvisible, 1);
     {
         const CanvasStateGuard guard(canvas);
-        canvas.setFillStyle(FillSolid);
-        canvas.setDrawStyle(DrawSolid);
-        canvas.setForeColor(10);
-        canvas.setFillColor(20);
-        canvas.setBackColor(30);
+        setAll(FillSolid, DrawSolid, 10);
     }
     EXPECT_EQ(canvas.fillStyle(), FillDiagonalCross);
     EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
