@@ -62,16 +62,12 @@ TEST(AssimpMeshImporter, PointsAndCornersComeThroughAsTheFileListsThem) {
     const std::string two =
         gltf +
         R"(AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA=",
-  "byteLength": 68}], "nodes": [{"mesh": 0}],
-  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "indices": 1},
-                             {"attributes": {"POSITION": 0}, "indices": 2}]}],
-  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3",
-                 "min": [0, 0, 0], "max": [1, 1, 0]},
-                {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"},
-                {"bufferView": 1, "byteOffset": 12, "componentType": 5123, "count": 3,
-                 "type": "SCALAR"}],
-  "bufferViews": [{"buffer": 0, "byteLength": 48},
-                  {"buffer": 0, "byteOffset": 48, "byteLength": 20}]})";
+  "byteLength": 68}], "nodes": [{"mesh": 0}], "meshes": [{"primitives": [{"attributes":
+  {"POSITION": 0}, "indices": 1}, {"attributes": {"POSITION": 0}, "indices": 2}]}], "accessors":
+  [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3", "min": [0, 0, 0], "max":
+  [1, 1, 0]}, {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"}, {"bufferView":
+  1, "byteOffset": 12, "componentType": 5123, "count": 3, "type": "SCALAR"}], "bufferViews":
+  [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48, "byteLength": 20}]})";
     const struct {
         const char* name;
         int32_t points;
