@@ -117,15 +117,11 @@ TEST(AssimpMeshImporter, MaterialsBecomeCoefficientsOfTheOneSolidOfAnObject) {
     const Solid3d& solid = *objects->front()->getSolid();
     ASSERT_EQ(solid.GetFaceNum(), 2);
     const Face3d& red = *solid.faces[0];
-    EXPECT_EQ(red.DiffuseKr, 1.0f);
-    EXPECT_EQ(red.DiffuseKg, 0.0f);
-    EXPECT_EQ(red.AmbientKr, 0.25f);
-    EXPECT_EQ(red.SpecularK, 0.0f);
+    EXPECT_EQ(std::tuple(red.DiffuseKr, red.DiffuseKg, red.AmbientKr, red.SpecularK),
+              std::tuple(1.0f, 0.0f, 0.25f, 0.0f));
     const Face3d& shiny = *solid.faces[1];
-    EXPECT_EQ(shiny.DiffuseKr, 0.25f);
-    EXPECT_EQ(shiny.DiffuseKg, 0.5f);
-    EXPECT_EQ(shiny.DiffuseKb, 0.75f);
-    EXPECT_EQ(shiny.AmbientKb, 0.5f);
+    EXPECT_EQ(std::tuple(shiny.DiffuseKr, shiny.DiffuseKg, shiny.DiffuseKb, shiny.AmbientKb),
+              std::tuple(0.25f, 0.5f, 0.75f, 0.5f));
     EXPECT_FLOAT_EQ(shiny.SpecularK, 0.4f);
     EXPECT_EQ(shiny.SpecularN, 100.0f); // the exponent bar's end
 }

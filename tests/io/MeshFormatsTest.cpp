@@ -98,10 +98,9 @@ TEST(MeshFormats, PlyInEveryEncodingKeepsVertexOrderCornersAndColours) {
         ASSERT_EQ(read.size(), 2u);
         EXPECT_EQ(read[0]->getIndices(), (std::vector<int32_t>{3, 4, 1, 2}));
         EXPECT_EQ(read[1]->getIndices(), (std::vector<int32_t>{1, 2, 4}));
-        EXPECT_EQ(read[0]->DiffuseKr, 1.0f);
-        EXPECT_EQ(read[0]->DiffuseKg, 0.2f);
-        EXPECT_EQ(read[1]->DiffuseKb, 1.0f);
-        EXPECT_EQ(read[1]->DiffuseKr, 0.0f);
+        EXPECT_EQ(std::tuple(read[0]->DiffuseKr, read[0]->DiffuseKg, read[1]->DiffuseKb,
+                             read[1]->DiffuseKr),
+                  std::tuple(1.0f, 0.2f, 1.0f, 0.0f));
     }
 }
 
@@ -172,10 +171,8 @@ TEST(MeshFormats, ObjObjectsKeepTheirVerticesCornersAndMaterials) {
     EXPECT_EQ(coordinatesOf(*objects[1]), all);
     const auto face = objects[1]->getFaces().at(0);
     EXPECT_EQ(face->getIndices(), (std::vector<int32_t>{4, 1, 2, 3}));
-    EXPECT_EQ(face->AmbientKb, 0.25f);
-    EXPECT_EQ(face->DiffuseKr, 1.0f);
-    EXPECT_EQ(face->SpecularK, 0.5f);
-    EXPECT_EQ(face->SpecularN, 20.0f);
+    EXPECT_EQ(std::tuple(face->AmbientKb, face->DiffuseKr, face->SpecularK, face->SpecularN),
+              std::tuple(0.25f, 1.0f, 0.5f, 20.0f));
     EXPECT_EQ(objects[2]->getFaces().at(0)->DiffuseKr, 0.0f);
     EXPECT_EQ(objects[2]->getFaces().at(0)->getIndices(), (std::vector<int32_t>{1, 2, 3}));
 }

@@ -18,9 +18,7 @@ TEST(CanvasStateGuard, PutsBackEveryStyleAndColour) {
         const CanvasStateGuard guard(canvas);
         setAll(FillSolid, DrawSolid, 10);
     }
-    EXPECT_EQ(canvas.fillStyle(), FillDiagonalCross);
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 1);
-    EXPECT_EQ(canvas.fillColor(), 2);
-    EXPECT_EQ(canvas.backColor(), 3);
+    EXPECT_EQ(std::tuple(canvas.fillStyle(), canvas.drawStyle(), canvas.foreColor(),
+                         canvas.fillColor(), canvas.backColor()),
+              std::tuple(FillDiagonalCross, DrawInvisible, 1, 2, 3));
 }
