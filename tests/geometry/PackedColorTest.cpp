@@ -13,7 +13,5 @@ TEST(PackedColor, PackClampsEachChannelOnItsOwnAndSplitIgnoresTheTopByte) {
         EXPECT_EQ(PackedColor::pack(r, g, b), color) << r << "," << g << "," << b;
     }
     const PackedColor flagged = PackedColor::split(0x7F80FF40);
-    EXPECT_EQ(flagged.red, 64);
-    EXPECT_EQ(flagged.green, 255);
-    EXPECT_EQ(flagged.blue, 128);
+    EXPECT_EQ(std::tuple(flagged.red, flagged.green, flagged.blue), std::tuple(64, 255, 128));
 }

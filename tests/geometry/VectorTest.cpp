@@ -1,21 +1,10 @@
 #include "geometry/Vector3D.h"
 #include "support/ScriptedPrompts.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
 #include <tuple>
 
 namespace {
-
-// The Cartesian reading, the same through getXYZ and the single getters.
-void expectReads(const Vector3D& v, float x, float y, float z, float within = 1e-5f) {
-    float vx, vy, vz;
-    v.getXYZ(vx, vy, vz);
-    EXPECT_NEAR(vx, x, within);
-    EXPECT_NEAR(vy, y, within);
-    EXPECT_NEAR(vz, z, within);
-    EXPECT_EQ(std::tuple(v.getX(), v.getY(), v.getZ()), std::tuple(vx, vy, vz));
-}
 
 Vector3D fromXYZ(float x, float y, float z) {
     Vector3D v;
@@ -35,26 +24,6 @@ const std::string conversionText = "3D Vector Cartesian->Spherical uncalculatabl
 const std::string conversionTitle = "Vector3D Convertion Error";
 
 } // namespace
-
-TEST(Vector3D, OffTheYAxisConversionsProductsAndNormalizeAreExactAndSilent) {
-    ScriptedPrompts prompts;
-    // On the x axis the arccosine fails and the arcsine takes over, silently.
-    const float directions[][3] = {{3, 0, 4}, {0, 0, -1}, {-1, 0, 0},
-                                   {2, 0, 0}, {1, 2, -2}, {-1, -2, 2}};
-    for (const auto& [x, y, z] : directions) {
-        const Vector3D v = fromXYZ(x, y, z);
-        const double length = std::sqrt(x * x + y * y + z * z);
-        EXPECT_FLOAT_EQ(v.getAmplitude(), static_cast<float>(length));
-        EXPECT_NEAR(v.getTheta(), std::atan2(z, x), 1e-6f) << x << " " << y << " " << z;
-        EXPECT_NEAR(v.getPhi(), std::asin(y / length), 1e-6f);
-        expectReads(v, x, y, z);
-    }
-    expectReads(fromXYZ(1, 2, 3).cross(fromXYZ(4, 5, 6)), -3, 6, -3);
-    Vector3D v = fromXYZ(3, 0, 4);
-    v.normalize();
-    expectReads(v, 0.6f, 0, 0.8f, 1e-6f);
-    EXPECT_TRUE(prompts.messages().empty());
-}
 
 TEST(Vector3D, VectorsAlongTheYAxisAndZeroAreReportedAndKeepTheirAngles) {
     for (const auto& [y, fields] :

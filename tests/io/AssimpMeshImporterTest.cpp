@@ -35,21 +35,10 @@ std::array<float, 3> point(const Solid3d& solid, int32_t index) {
     return {p.x, p.y, p.z};
 }
 
+// Assimp reads the words of an ASCII STL whatever white space parts them.
 const char* const twoTriangles = R"(solid two
-facet normal 0 0 1
-outer loop
-vertex 0 0 0
-vertex 1 0 0
-vertex 1 1 0
-endloop
-endfacet
-facet normal 0 0 1
-outer loop
-vertex 0 0 0
-vertex 1 1 0
-vertex 0 1 0
-endloop
-endfacet
+facet normal 0 0 1 outer loop vertex 0 0 0 vertex 1 0 0 vertex 1 1 0 endloop endfacet
+facet normal 0 0 1 outer loop vertex 0 0 0 vertex 1 1 0 vertex 0 1 0 endloop endfacet
 endsolid two
 )";
 
@@ -59,55 +48,39 @@ endsolid two
 // triangle 1 2 4 of the square's points, becomes a mesh with its own four points). STL says
 // nothing of surfaces: its faces take an extrusion's unticked values.
 TEST(AssimpMeshImporter, PointsAndCornersComeThroughAsTheFileListsThem) {
+    const std::string off = "OFF\n5 2 0\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n1 0 1\n3 1 4 2\n4 0 1 2 3\n";
+    const std::string gltf =
+        R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
+  "buffers": [{"uri": "data:application/octet-stream;base64,)";
+    // One triangle (0,0,0) (1,0,0) (0,1,0), mirrored in x, with a base colour.
+    const std::string mirror = gltf + R"(AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA",
+  "byteLength": 36}], "nodes": [{"mesh": 0, "scale": [-1, 1, 1]}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]}],
+  "materials": [{"pbrMetallicRoughness": {"baseColorFactor": [0.25, 0.5, 0.75, 1]}}],
+  "bufferViews": [{"buffer": 0, "byteLength": 36}], "accessors": [{"bufferView": 0,
+    "componentType": 5126, "count": 3, "type": "VEC3", "min": [0, 0, 0], "max": [1, 1, 0]}]})";
+    const std::string two =
+        gltf +
+        R"(AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA=",
+  "byteLength": 68}], "nodes": [{"mesh": 0}], "meshes": [{"primitives": [{"attributes":
+  {"POSITION": 0}, "indices": 1}, {"attributes": {"POSITION": 0}, "indices": 2}]}], "accessors":
+  [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3", "min": [0, 0, 0], "max":
+  [1, 1, 0]}, {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"}, {"bufferView":
+  1, "byteOffset": 12, "componentType": 5123, "count": 3, "type": "SCALAR"}], "bufferViews":
+  [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48, "byteLength": 20}]})";
     const struct {
         const char* name;
-        std::string content;
         int32_t points;
         std::vector<Corners> faces;
         int32_t index;
         std::array<float, 3> point;
-        std::optional<float> green = {}; // the diffuse green of the first face, where checked
+        std::optional<float> green; // the diffuse green of the first face, where checked
+        std::string content;
     } cases[] = {
-        {"two.stl", twoTriangles, 4, {{1, 2, 3}, {1, 3, 4}}, 4, {0, 1, 0}, 0.5f},
-        {"quad.off",
-         "OFF\n5 2 0\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n1 0 1\n3 1 4 2\n4 0 1 2 3\n",
-         5,
-         {{2, 5, 3}, {1, 2, 3, 4}},
-         5,
-         {1, 0, 1}},
-        // One triangle (0,0,0) (1,0,0) (0,1,0), mirrored in x, with a base colour.
-        {"mirror.gltf",
-         R"({"asset": {"version": "2.0"}, "scene": 0,
-  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0, "scale": [-1, 1, 1]}],
-  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]}],
-  "materials": [{"pbrMetallicRoughness": {"baseColorFactor": [0.25, 0.5, 0.75, 1]}}],
-  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3",
-                 "min": [0, 0, 0], "max": [1, 1, 0]}],
-  "bufferViews": [{"buffer": 0, "byteLength": 36}],
-  "buffers": [{"byteLength": 36, "uri":
-    "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})",
-         3,
-         {{3, 2, 1}},
-         2,
-         {-1, 0, 0},
-         0.5f},
-        {"two.gltf",
-         R"({"asset": {"version": "2.0"}, "scene": 0,
-  "scenes": [{"nodes": [0]}], "nodes": [{"mesh": 0}],
-  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "indices": 1},
-                             {"attributes": {"POSITION": 0}, "indices": 2}]}],
-  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 4, "type": "VEC3",
-                 "min": [0, 0, 0], "max": [1, 1, 0]},
-                {"bufferView": 1, "componentType": 5123, "count": 6, "type": "SCALAR"},
-                {"bufferView": 1, "byteOffset": 12, "componentType": 5123, "count": 3,
-                 "type": "SCALAR"}],
-  "bufferViews": [{"buffer": 0, "byteLength": 48}, {"buffer": 0, "byteOffset": 48,
-                   "byteLength": 20}],
-  "buffers": [{"byteLength": 68, "uri": "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAgD8AAAAAAAABAAIAAAACAAMAAAABAAMAAAA="}]})",
-         8,
-         {{1, 2, 3}, {1, 3, 4}, {5, 6, 8}},
-         6,
-         {1, 0, 0}},
+        {"two.stl", 4, {{1, 2, 3}, {1, 3, 4}}, 4, {0, 1, 0}, 0.5f, twoTriangles},
+        {"quad.off", 5, {{2, 5, 3}, {1, 2, 3, 4}}, 5, {1, 0, 1}, {}, off},
+        {"mirror.gltf", 3, {{3, 2, 1}}, 2, {-1, 0, 0}, 0.5f, mirror},
+        {"two.gltf", 8, {{1, 2, 3}, {1, 3, 4}, {5, 6, 8}}, 6, {1, 0, 0}, {}, two},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -144,15 +117,11 @@ TEST(AssimpMeshImporter, MaterialsBecomeCoefficientsOfTheOneSolidOfAnObject) {
     const Solid3d& solid = *objects->front()->getSolid();
     ASSERT_EQ(solid.GetFaceNum(), 2);
     const Face3d& red = *solid.faces[0];
-    EXPECT_EQ(red.DiffuseKr, 1.0f);
-    EXPECT_EQ(red.DiffuseKg, 0.0f);
-    EXPECT_EQ(red.AmbientKr, 0.25f);
-    EXPECT_EQ(red.SpecularK, 0.0f);
+    EXPECT_EQ(std::tuple(red.DiffuseKr, red.DiffuseKg, red.AmbientKr, red.SpecularK),
+              std::tuple(1.0f, 0.0f, 0.25f, 0.0f));
     const Face3d& shiny = *solid.faces[1];
-    EXPECT_EQ(shiny.DiffuseKr, 0.25f);
-    EXPECT_EQ(shiny.DiffuseKg, 0.5f);
-    EXPECT_EQ(shiny.DiffuseKb, 0.75f);
-    EXPECT_EQ(shiny.AmbientKb, 0.5f);
+    EXPECT_EQ(std::tuple(shiny.DiffuseKr, shiny.DiffuseKg, shiny.DiffuseKb, shiny.AmbientKb),
+              std::tuple(0.25f, 0.5f, 0.75f, 0.5f));
     EXPECT_FLOAT_EQ(shiny.SpecularK, 0.4f);
     EXPECT_EQ(shiny.SpecularN, 100.0f); // the exponent bar's end
 }

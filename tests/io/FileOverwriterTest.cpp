@@ -72,13 +72,15 @@ TEST(FileOverwriter, KeepsPermissionsOwnerAndLinksAndCleansUpAfterADeadSave) {
     if (root) {
         ASSERT_EQ(::chown(file.c_str(), 4321, 4321), 0);
     }
-    const std::string dead = folder.file(".scene.tvm.4194999.korvan-save"); // beyond pid_max
-    const std::string ours = folder.file(".scene.tvm." + std::to_string(::getpid()) +
-                                         ".korvan-save"); // a failed save of ours
-    const std::string living = folder.file(".scene.tvm.1.korvan-save");
-    const std::string otherFile = folder.file(".other.tvm.4194999.korvan-save");
-    for (const std::string& temporary : {dead, ours, living, otherFile}) {
-        put(temporary, {});
+    // Temporaries of a dead save (its process beyond pid_max), of a failed save of ours, of a
+    // living process and of another file; the first two are cleaned up.
+    const std::pair<std::string, bool> temporaries[] = {
+        {".scene.tvm.4194999.korvan-save", false},
+        {".scene.tvm." + std::to_string(::getpid()) + ".korvan-save", false},
+        {".scene.tvm.1.korvan-save", true},
+        {".other.tvm.4194999.korvan-save", true}};
+    for (const auto& [temporary, stays] : temporaries) {
+        put(folder.file(temporary), {});
     }
     PosixFileSystem& system = PosixFileSystem::instance();
     ASSERT_EQ(FileOverwriter(system).overwrite(file, newContent), std::error_code());
@@ -89,10 +91,9 @@ TEST(FileOverwriter, KeepsPermissionsOwnerAndLinksAndCleansUpAfterADeadSave) {
         EXPECT_EQ(info.st_uid, 4321u);
         EXPECT_EQ(info.st_gid, 4321u);
     }
-    EXPECT_FALSE(fs::exists(dead));
-    EXPECT_FALSE(fs::exists(ours));
-    EXPECT_TRUE(fs::exists(living));
-    EXPECT_TRUE(fs::exists(otherFile));
+    for (const auto& [temporary, stays] : temporaries) {
+        EXPECT_EQ(fs::exists(folder.file(temporary)), stays) << temporary;
+    }
 
     // A second name sees the new content, cut to its length.
     const std::string second = folder.file("second name.tvm");

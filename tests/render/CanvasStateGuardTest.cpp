@@ -6,22 +6,19 @@
 
 TEST(CanvasStateGuard, PutsBackEveryStyleAndColour) {
     RecordingCanvas canvas;
-    canvas.setFillStyle(FillDiagonalCross);
-    canvas.setDrawStyle(DrawInvisible);
-    canvas.setForeColor(1);
-    canvas.setFillColor(2);
-    canvas.setBackColor(3);
+    const auto setAll = [&canvas](int fillStyle, int drawStyle, int32_t colour) {
+        canvas.setFillStyle(fillStyle);
+        canvas.setDrawStyle(drawStyle);
+        canvas.setForeColor(colour);
+        canvas.setFillColor(colour + 1);
+        canvas.setBackColor(colour + 2);
+    };
+    setAll(FillDiagonalCross, DrawInvisible, 1);
     {
         const CanvasStateGuard guard(canvas);
-        canvas.setFillStyle(FillSolid);
-        canvas.setDrawStyle(DrawSolid);
-        canvas.setForeColor(10);
-        canvas.setFillColor(20);
-        canvas.setBackColor(30);
+        setAll(FillSolid, DrawSolid, 10);
     }
-    EXPECT_EQ(canvas.fillStyle(), FillDiagonalCross);
-    EXPECT_EQ(canvas.drawStyle(), DrawInvisible);
-    EXPECT_EQ(canvas.foreColor(), 1);
-    EXPECT_EQ(canvas.fillColor(), 2);
-    EXPECT_EQ(canvas.backColor(), 3);
+    EXPECT_EQ(std::tuple(canvas.fillStyle(), canvas.drawStyle(), canvas.foreColor(),
+                         canvas.fillColor(), canvas.backColor()),
+              std::tuple(FillDiagonalCross, DrawInvisible, 1, 2, 3));
 }

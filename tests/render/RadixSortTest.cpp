@@ -25,21 +25,14 @@ TEST(RadixSort, OrdersExactlyAsTheQueueSortDid) {
         ReferenceRadixSort<int> reference(round % 3 == 0 ? 4 : 8);
         sorter.reset(round % 3 == 0 ? 4 : 8);
         for (int i = 0; i < 300; ++i) {
-            float key = 0.0f;
-            switch (pick(random)) {
-            case 0:
-                key = fixed[static_cast<size_t>(i) % fixed.size()];
-                break;
-            case 1:
-                key = static_cast<float>(tenths(random)) / 10.0f;
-                break;
-            case 2:
-                // Neighbours differ only in the last digits, where rounding decides.
-                key = std::nextafter(previous, pick(random) < 3 ? 1e38f : -1e38f);
-                break;
-            default:
-                key = mantissa(random) * std::pow(10.0f, static_cast<float>(exponent(random)));
-            }
+            // Neighbours (kind 2) differ only in the last digits, where rounding decides.
+            const int kind = pick(random);
+            const float key =
+                kind == 0   ? fixed[static_cast<size_t>(i) % fixed.size()]
+                : kind == 1 ? static_cast<float>(tenths(random)) / 10.0f
+                : kind == 2
+                    ? std::nextafter(previous, pick(random) < 3 ? 1e38f : -1e38f)
+                    : mantissa(random) * std::pow(10.0f, static_cast<float>(exponent(random)));
             previous = key;
             const auto object = std::make_shared<int>(i);
             reference.addObject(object, key);

@@ -156,14 +156,11 @@ TEST(Face3d, ObscuresComparesDepthWhereEdgesCrossElseLooksForContainment) {
 
 namespace {
 
-struct Corner {
-    float x, y;
-};
-
-struct Polygon {
-    std::vector<Corner> corners;
-    int size() const { return static_cast<int>(corners.size()); }
-    const Corner& operator[](int i) const { return corners[static_cast<size_t>(i)]; }
+// The corners of a face in the plane z = 0 as the winding sum reads them.
+struct Corners {
+    const std::vector<float>& xyz;
+    int size() const { return static_cast<int>(xyz.size() / 3); }
+    Point4 operator[](int i) const { return {xyz[3 * i], xyz[3 * i + 1], 0, 1}; }
 };
 
 } // namespace
@@ -182,18 +179,17 @@ TEST(Face3d, PointInsideAnswersAsTheFullWindingSumForRandomFacesAndPoints) {
         const float scale = round % 3 == 0 ? 0.005f : round % 3 == 1 ? 1.0f : 300.0f;
         const float stretch = round % 5 == 0 ? 0.001f : 1.0f;
         std::vector<float> xyz;
-        Polygon polygon;
         const int count = 3 + static_cast<int>(random() % 5);
         for (int i = 0; i < count; ++i) {
-            const float cx = uniform(-1, 1) * scale;
-            const float cy = uniform(-1, 1) * scale * stretch;
-            xyz.insert(xyz.end(), {cx, cy, 0});
-            polygon.corners.push_back({cx, cy});
+            xyz.insert(xyz.end(), {uniform(-1, 1) * scale, uniform(-1, 1) * scale * stretch, 0});
         }
+        const Corners polygon{xyz};
         auto face = addFace(solid, xyz);
         solid.Apply(canvasLayout());
         for (int k = 0; k < 8; ++k) {
-            const auto& [cx, cy] = polygon.corners[random() % polygon.corners.size()];
+            const Point4 corner =
+                polygon[static_cast<int>(random() % static_cast<unsigned>(count))];
+            const float cx = corner.x, cy = corner.y;
             // Near a corner, or along a diagonal through it where the shortcut's bounds lie.
             const float dx = uniform(-3, 3) * scale;
             const float x = cx + dx;

@@ -18,22 +18,6 @@ void addSquare(Solid3d& solid, float x, float y, float size, float z) {
 
 } // namespace
 
-TEST(Solid3d, SharedPointsAreTransformedOncePerReset) {
-    auto cube = makeCube();
-    const auto original = makeCube();
-    Matrix4 shift;
-    M3Ops::setTranslation(shift, 1, 0, 0);
-    cube->ApplyCoord(shift);
-    cube->ApplyCoord(shift); // cached: no second move
-    for (int32_t i = 1; i <= 8; ++i) {
-        EXPECT_EQ(cube->getPointRecord(i).coord.x, original->getPointRecord(i).coord.x + 1) << i;
-    }
-    cube->resetTransformedPoints();
-    cube->faces[0]->IsCulled = true; // a culled face moves nothing of its own
-    cube->faces[0]->ApplyCoord(shift);
-    EXPECT_EQ(cube->getPointRecord(7).coord.x, 2.0f);
-}
-
 TEST(Solid3d, SortFacesPaintsTheRearOfOverlappingFacesFirst) {
     Solid3d solid;
     addSquare(solid, 0, 0, 20, 1);    // in front, listed first

@@ -63,9 +63,8 @@ TEST(WorkPlane, SelectedPlaneDrawsTintedHatchedSquareIsPickedAndHidesOrClipsAway
             << i;
         EXPECT_EQ(calls[i].foreColor, tinted) << i;
     }
-    EXPECT_EQ(calls[5].kind, RecordingCanvas::Kind::Polygon);
-    EXPECT_EQ(calls[5].fillStyle, FillDiagonalCross);
-    EXPECT_EQ(calls[5].fillColor, tinted);
+    EXPECT_EQ(std::tuple(calls[5].kind, calls[5].fillStyle, calls[5].fillColor),
+              std::tuple(RecordingCanvas::Kind::Polygon, FillDiagonalCross, tinted));
     EXPECT_EQ(canvas.foreColor(), 1); // the canvas is left as it was
 
     // Hidden, it is neither transformed, drawn nor picked, and says nothing.
