@@ -27,6 +27,27 @@ public:
     // file beyond it fails with no space left, a write after writing what fits.
     void leaveRoom(uint64_t bytes) { room_ = bytes; }
 
+    std::error_code status(const std::string& path, Status& status) override {
+        return unlessFailing(Call::other, [&] { return real().status(path, status); });
+    }
+    std::error_code resolve(const std::string& path, std::string& resolved) override {
+        return unlessFailing(Call::other, [&] { return real().resolve(path, resolved); });
+    }
+    std::error_code list(const std::string& folder, std::vector<std::string>& names) override {
+        return unlessFailing(Call::other, [&] { return real().list(folder, names); });
+    }
+    std::error_code openToRead(const std::string& path, Handle& handle) override {
+        return unlessFailing(Call::openToRead, [&] { return real().openToRead(path, handle); });
+    }
+    std::error_code openToWrite(const std::string& path, Handle& handle) override {
+        return unlessFailing(Call::openToWrite, [&] { return real().openToWrite(path, handle); });
+    }
+    std::error_code createNew(const std::string& path, Handle& handle) override {
+        return unlessFailing(Call::createNew, [&] { return real().createNew(path, handle); });
+    }
+    std::error_code statusOf(Handle handle, Status& status) override {
+        return unlessFailing(Call::other, [&] { return real().statusOf(handle, status); });
+    }
     std::error_code read(Handle handle, uint64_t offset, std::span<uint8_t> into,
                          size_t& count) override {
         count = 0;
@@ -48,6 +69,9 @@ public:
             return real().write(handle, bytes, count);
         });
     }
+    std::error_code truncate(Handle handle, uint64_t size) override {
+        return unlessFailing(Call::other, [&] { return real().truncate(handle, size); });
+    }
     std::error_code reserve(Handle handle, uint64_t size) override {
         return unlessFailing(Call::other, [&] {
             const uint64_t grows = growth(handle, size);
@@ -58,10 +82,29 @@ public:
             return real().reserve(handle, size);
         });
     }
+    std::error_code setOwner(Handle handle, uint32_t owner, uint32_t group) override {
+        return unlessFailing(Call::other, [&] { return real().setOwner(handle, owner, group); });
+    }
+    std::error_code setPermissions(Handle handle, uint32_t permissions) override {
+        return unlessFailing(Call::other,
+                             [&] { return real().setPermissions(handle, permissions); });
+    }
+    std::error_code sync(Handle handle) override {
+        return unlessFailing(Call::other, [&] { return real().sync(handle); });
+    }
     std::error_code close(Handle handle) override {
         const std::error_code error = fault(Call::other);
         const std::error_code closed = real().close(handle);
         return error ? error : closed;
+    }
+    std::error_code rename(const std::string& from, const std::string& to) override {
+        return unlessFailing(Call::other, [&] { return real().rename(from, to); });
+    }
+    std::error_code remove(const std::string& path) override {
+        return unlessFailing(Call::other, [&] { return real().remove(path); });
+    }
+    std::error_code syncFolder(const std::string& folder) override {
+        return unlessFailing(Call::other, [&] { return real().syncFolder(folder); });
     }
     int processId() override { return real().processId(); }
     bool processRunning(int id) override { return real().processRunning(id); }
@@ -95,28 +138,4 @@ private:
     std::optional<size_t> failingNumber_;
     size_t calls_ = 0;
     uint64_t room_ = std::numeric_limits<uint64_t>::max();
-
-public:
-    // The calls that only fail when told to, and otherwise are the system's own.
-#define FORWARD(call, name, parameters, arguments)                                                 \
-    std::error_code name parameters override {                                                     \
-        return unlessFailing(Call::call, [&] { return real().name arguments; });                   \
-    }
-    FORWARD(other, status, (const std::string& path, Status& status), (path, status))
-    FORWARD(other, resolve, (const std::string& path, std::string& resolved), (path, resolved))
-    FORWARD(other, list, (const std::string& folder, std::vector<std::string>& names),
-            (folder, names))
-    FORWARD(openToRead, openToRead, (const std::string& path, Handle& handle), (path, handle))
-    FORWARD(openToWrite, openToWrite, (const std::string& path, Handle& handle), (path, handle))
-    FORWARD(createNew, createNew, (const std::string& path, Handle& handle), (path, handle))
-    FORWARD(other, statusOf, (Handle handle, Status& status), (handle, status))
-    FORWARD(other, truncate, (Handle handle, uint64_t size), (handle, size))
-    FORWARD(other, setOwner, (Handle handle, uint32_t owner, uint32_t group),
-            (handle, owner, group))
-    FORWARD(other, setPermissions, (Handle handle, uint32_t permissions), (handle, permissions))
-    FORWARD(other, sync, (Handle handle), (handle))
-    FORWARD(other, rename, (const std::string& from, const std::string& to), (from, to))
-    FORWARD(other, remove, (const std::string& path), (path))
-    FORWARD(other, syncFolder, (const std::string& folder), (folder))
 };
-#undef FORWARD
