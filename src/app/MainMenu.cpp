@@ -33,7 +33,7 @@ MainMenu::MainMenu() {
     file.add("mnuFileSave", "&Save");
     file.add("mnuFileSaveAs", "Save &As...").setShortcuts({"Ctrl+Shift+S"});
     file.add("mnuFileImport", "&Import...");
-    file.add("mnuFileExportMesh", "Export &Mesh...");
+    file.add("mnuFileExportMesh", "E&xport Mesh...");
     file.add("mnuFileExportImage", "Export &Image...");
     file.add("mnuFileExport", "&Export To Bitmap");
     file.add("mnuFileExit", "E&xit");

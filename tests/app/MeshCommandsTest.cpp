@@ -11,7 +11,7 @@
 namespace {
 
 const std::vector<std::string> fileImport = {"&File", "&Import..."};
-const std::vector<std::string> fileExportMesh = {"&File", "Export &Mesh..."};
+const std::vector<std::string> fileExportMesh = {"&File", "E&xport Mesh..."};
 
 // The number of solids a mesh file holds, read back as Import reads it.
 size_t solidsIn(const std::string& path) {

@@ -157,7 +157,7 @@ TEST(frmTolvane, AFileNamedGoesThroughOpenOrImportAndJoinsTheRecentFiles) {
     w.form.attachSettings(store);
     w.form.getDocument().solids.push_back(makeObject());
     w.files.queueAnswer(folder.file("b.obj"));
-    w.choose({"&File", "Export &Mesh..."});
+    w.choose({"&File", "E&xport Mesh..."});
     w.form.openFile(folder.file("b.obj"));
     EXPECT_EQ(w.form.getDocument().solids.size(), 2u);
     EXPECT_EQ(w.frame.status(), "Imported b.obj (1 solid, 6 faces)");
