@@ -142,6 +142,23 @@ TEST(FileOverwriter, RefusesWhatCannotBeWrittenInPlace) {
     EXPECT_EQ(folder.entries().size(), 1u);
 }
 
+TEST(FileOverwriter, AFileTheDiskWouldNotKeepIsNotSaved) {
+    // The data written may be lost when the disk refuses to sync it: through a temporary, the
+    // old file stays; in place, the save at least says that it failed.
+    TempFolder folder;
+    const std::string file = folder.file("scene.tvm");
+    for (const bool inPlace : {false, true}) {
+        put(file, oldContent);
+        FaultyFileSystem disk;
+        disk.failAll(FaultyFileSystem::Call::sync, std::errc::io_error);
+        if (inPlace) {
+            disk.failAll(FaultyFileSystem::Call::createNew, std::errc::permission_denied);
+        }
+        EXPECT_EQ(FileOverwriter(disk).overwrite(file, newContent), std::errc::io_error) << inPlace;
+        EXPECT_EQ(contentOf(file), inPlace ? newContent : oldContent) << inPlace;
+    }
+}
+
 TEST(FileOverwriter, AFullDiskStopsASaveInPlaceBeforeItChangesTheFile) {
     TempFolder folder;
     const std::string file = folder.file("scene.tvm");

@@ -15,7 +15,7 @@
 class FaultyFileSystem : public FileSystem {
 public:
     // The calls a test may make fail by name; every other call is counted only.
-    enum class Call { other, openToRead, openToWrite, createNew, write };
+    enum class Call { other, openToRead, openToWrite, createNew, write, sync };
 
     // Every call of this kind fails with the error.
     void failAll(Call call, std::errc error) { failing_[call] = error; }
@@ -90,7 +90,7 @@ public:
                              [&] { return real().setPermissions(handle, permissions); });
     }
     std::error_code sync(Handle handle) override {
-        return unlessFailing(Call::other, [&] { return real().sync(handle); });
+        return unlessFailing(Call::sync, [&] { return real().sync(handle); });
     }
     std::error_code close(Handle handle) override {
         const std::error_code error = fault(Call::other);
