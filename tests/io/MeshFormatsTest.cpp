@@ -171,8 +171,9 @@ TEST(MeshFormats, ObjObjectsKeepTheirVerticesCornersAndMaterials) {
     EXPECT_EQ(coordinatesOf(*objects[1]), all);
     const auto face = objects[1]->getFaces().at(0);
     EXPECT_EQ(face->getIndices(), (std::vector<int32_t>{4, 1, 2, 3}));
-    EXPECT_EQ(std::tuple(face->AmbientKb, face->DiffuseKr, face->SpecularK, face->SpecularN),
-              std::tuple(0.25f, 1.0f, 0.5f, 20.0f));
+    EXPECT_EQ(std::tuple(face->AmbientKr, face->AmbientKb, face->DiffuseKr, face->SpecularK,
+                         face->SpecularN),
+              std::tuple(0.25f, 0.25f, 1.0f, 0.5f, 20.0f));
     EXPECT_EQ(objects[2]->getFaces().at(0)->DiffuseKr, 0.0f);
     EXPECT_EQ(objects[2]->getFaces().at(0)->getIndices(), (std::vector<int32_t>{1, 2, 3}));
 }

@@ -1,5 +1,6 @@
 #include "render/Shading.h"
 
+#include "geometry/PackedColor.h"
 #include "render/LightRanges.h"
 #include "scene/Transformed3d.h"
 #include "support/TestSolids.h"
@@ -48,10 +49,12 @@ TEST(Shading, DiffuseTermIsAttenuatedByDistanceAndClamped) {
 TEST(Shading, FacesTurnedFromEveryLightAreBlackOrBasePlusAmbient) {
     ShadedSurface s = redSurface();
     s.AmbientKr = 1;
+    s.AmbientKb = 0.5f;
     const LightList behind = {light(0, 0, -5, 5), light(3, 3, -5, 5)};
     const EyePoint eye{0, 0, 10};
     EXPECT_EQ(Shading::shadeColor(s, behind, eye, false), 0);
-    EXPECT_EQ(Shading::shadeForcedColor(s, behind, 50, eye, false, 150, 0, 0), 200);
+    EXPECT_EQ(Shading::shadeForcedColor(s, behind, 50, eye, false, 150, 0, 0),
+              PackedColor::pack(200, 0, 25));
 }
 
 TEST(Shading, SpecularTermCanDarkenAndShiftedLightsMove) {
