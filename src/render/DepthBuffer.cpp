@@ -39,7 +39,7 @@ void DepthBuffer::reset(int width, int height) {
     picture_.height = height;
     // Rows are longer than the picture by three pixels and a multiple of four, so that a span's
     // last four pixels can be read and written back whole without reaching into the next row,
-    // and pictures be merged four pixels at a time.
+    // and two buffers be painted from four pixels at a time.
     stride_ = (static_cast<size_t>(width) + 6) / 4 * 4;
     const size_t size = stride_ * static_cast<size_t>(height);
     picture_.pixels.resize(static_cast<size_t>(width) * height);

@@ -10,9 +10,10 @@
 // A picture drawn with a depth buffer instead of a painting order: each pixel keeps the nearest
 // face that covers it, nearest meaning the largest depth (depths grow towards the eye), and of
 // faces as near the one with the larger number. Faces are filled in the order of their numbers,
-// into one buffer or into several merged after. A face covers the pixels a filled polygon of its
-// rounded corners covers, and its depth at a pixel centre is that of the plane through its first
-// three corners in canvas x, y and depth; a face seen edge-on takes its largest corner depth.
+// into one buffer or shared out between two that are painted from together. A face covers the
+// pixels a filled polygon of its rounded corners covers, and its depth at a pixel centre is that of
+// the plane through its first three corners in canvas x, y and depth; a face seen edge-on takes its
+// largest corner depth.
 //
 // Faces are filled by number, from 1 up (0 stands for no face), and coloured only once all are
 // in, so that only the faces that show are shaded. Faces may be shared out between two buffers
@@ -21,7 +22,6 @@ class DepthBuffer {
 public:
     // Sizes the picture and uncovers every pixel (at the same size, only those covered).
     void reset(int width, int height);
-    int height() const { return picture_.height; }
     // Covers the pixels where face number `face`, larger than those filled before, is nearest.
     // depths: x and y in canvas pixels and the depth of each transformed corner; points: the same
     // corners rounded, as the polygon is filled. Each thread brings a filler of its own.

@@ -200,7 +200,7 @@ void ViewportRenderer::see(View& view, const ViewportScene& scene) const {
                     seen.reached[i] = 1;
                 }
                 const float z = seen.points[i].z;
-                seen.culled[f] |= z >= record.EyeR ? 1 : 0;
+                seen.culled[f] |= static_cast<uint8_t>(Face3d::behindEye(z, record.EyeR));
                 faceMax = std::max(faceMax, z);
             }
             if (seen.culled[f] != 0) {
@@ -383,7 +383,7 @@ void ViewportRenderer::paintDepth(View& view, const ViewportScene& scene, size_t
             }
         }
     });
-    // Only the rows and columns some face may cover are merged, painted and laid over.
+    // Only the rows and columns some face may cover are painted and laid over.
     PixelBox box = buffer.covered();
     if (cores > 1) {
         box.include(depthBuffers_.back()->covered());

@@ -245,7 +245,7 @@ void Face3d::clipEye(float eyeR) {
         return;
     }
     for (int corner = 1; corner <= cornerCount(); ++corner) {
-        if (transOf(corner).z >= eyeR) {
+        if (behindEye(transOf(corner).z, eyeR)) {
             IsCulled = true;
             return;
         }

@@ -102,6 +102,8 @@ public:
                                           static_cast<double>(nz) * (corner.z - eye_z));
         return !(-0.0001 >= d);
     }
+    // A face with a corner this deep or deeper (at or behind the eye) is culled.
+    static bool behindEye(float depth, float eyeR) { return depth >= eyeR; }
     void clipEye(float eyeR);
 
     // Depth relations for the painter's sort, all on the transformed points.
